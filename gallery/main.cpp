@@ -1,0 +1,35 @@
+#include "GalleryWindow.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+#include <QTimer>
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("uxGallery"));
+    QLocale::setDefault(QLocale::c());
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("The uxQt4Ext widget gallery."));
+    parser.addHelpOption();
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                        QStringLiteral("Render every page to DIR/<page>.png and exit."),
+                                        QStringLiteral("DIR"));
+    parser.addOption(screenshot);
+    parser.process(app);
+
+    GalleryWindow window;
+    if (parser.isSet(screenshot)) {
+        window.show();
+        QApplication::processEvents();
+        const QStringList written = window.saveScreenshots(parser.value(screenshot));
+        QTextStream out(stdout);
+        for (const QString& path : written)
+            out << path << '\n';
+        return written.isEmpty() ? 1 : 0;
+    }
+    window.show();
+    return app.exec();
+}

@@ -1,0 +1,3 @@
+#include "QUxIntVector4D.h"
+
+// Header-only in practice; this unit anchors the class in the library.
