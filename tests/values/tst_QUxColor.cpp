@@ -313,6 +313,11 @@ void tst_QUxColor::shouldEncodeGammaQColorOnlyWhileGammaIsOn()
     QUxColor grey(0.5f, 0.5f, 0.5f);
     QCOMPARE(grey.getGammaQColor(), QColor(187, 187, 187));
     QCOMPARE(grey.getQColor(), QColor(127, 127, 127));
+    QUxColor white(1.f, 1.f, 1.f);
+    QCOMPARE(white.getGammaQColor(), QColor(255, 255, 255));
+    QUxColor blue;
+    blue.setHSV(240.f, 1.f, 1.f);
+    QCOMPARE(blue.getGammaQColor(), QColor(0, 0, 255));
     QUxColor::s_useGamma = false;
     QCOMPARE(grey.getGammaQColor(), grey.getQColor());
 }

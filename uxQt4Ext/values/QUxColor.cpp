@@ -27,15 +27,26 @@ constexpr float kLabOffset = 0.13793103f;   // 4 / 29
 constexpr float kLabDelta = 0.20689656f;    // 6 / 29
 constexpr float kLabInvSlope = 0.12841856f; // 108 / 841
 
-float encodeSRGB(float x) { return x <= 0.0031308f ? 12.92f * x : 1.055f * std::pow(x, 1.0f / 2.4f) - 0.055f; }
+// The transfer curves run in double precision: in single precision
+// 1.055 - 0.055 falls just short of 1, and white would encode to 254.
+float encodeSRGB(float x)
+{
+    const double v = x;
+    return float(v <= 0.0031308 ? 12.92 * v : 1.055 * std::pow(v, 1.0 / 2.4) - 0.055);
+}
 
-float decodeSRGB(float x) { return x <= 0.04045f ? x / 12.92f : std::pow((x + 0.055f) / 1.055f, 2.4f); }
+float decodeSRGB(float x)
+{
+    const double v = x;
+    return float(v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4));
+}
 
 float decodeSRGBClamped(float x)
 {
-    if (x <= 0.04045f)
-        return x / 12.92f;
-    return std::pow(std::max(0.0f, (x + 0.055f) / 1.055f), 2.4f);
+    const double v = x;
+    if (v <= 0.04045)
+        return float(v / 12.92);
+    return float(std::pow(std::max(0.0, (v + 0.055) / 1.055), 2.4));
 }
 
 float labForward(float t) { return t > kLabEpsilon ? std::cbrt(t) : t * kLabSlope + kLabOffset; }

@@ -3,6 +3,7 @@
 #include "uxQt4ExtGlobal.h"
 
 #include <QColor>
+#include <QMetaType>
 
 /**
  * The colour value of the colour editors: hue (degrees), saturation and value
@@ -121,3 +122,5 @@ private:
     float m_saturation;
     float m_value;
 };
+
+Q_DECLARE_METATYPE(QUxColor)
