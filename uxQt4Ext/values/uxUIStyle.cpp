@@ -1,5 +1,7 @@
 #include "uxUIStyle.h"
 
+#include "QUxSlider.h"
+
 #include <QStyle>
 #include <QWidget>
 
@@ -36,7 +38,19 @@ void uxUIStyle::setControlProperty(QWidget* w, const char* name, const QVariant&
     w->update();
 }
 
+namespace {
+
+/// Composite controls whose inner widgets must show the highlight too.
+void propagateToInnerWidgets(QWidget* w)
+{
+    if (auto* slider = qobject_cast<QUxSlider*>(w))
+        slider->propagateMultiselectProperty();
+}
+
+} // namespace
+
 void uxUIStyle::setMultiSelectHighlight(QWidget* w, bool on)
 {
     setControlProperty(w, "multiselect", on ? QVariant(true) : QVariant());
+    propagateToInnerWidgets(w);
 }

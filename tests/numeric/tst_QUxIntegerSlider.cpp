@@ -1,0 +1,165 @@
+#include <QUxIntegerSlider.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QtTest>
+
+namespace {
+
+QWidget* widgetAt(QUxIntegerSlider& slider, int index) { return slider.layout()->itemAt(index)->widget(); }
+QLabel* prefixLabel(QUxIntegerSlider& slider) { return qobject_cast<QLabel*>(widgetAt(slider, 0)); }
+QSlider* innerSlider(QUxIntegerSlider& slider) { return qobject_cast<QSlider*>(widgetAt(slider, 1)); }
+QLabel* specialSuffixLabel(QUxIntegerSlider& slider) { return qobject_cast<QLabel*>(widgetAt(slider, 2)); }
+QSpinBox* innerSpinner(QUxIntegerSlider& slider) { return qobject_cast<QSpinBox*>(widgetAt(slider, 3)); }
+
+void typeIntoSpinner(QUxIntegerSlider& slider, const QString& text)
+{
+    QSpinBox* spinner = innerSpinner(slider);
+    spinner->setFocus();
+    spinner->selectAll();
+    QTest::keyClicks(spinner, text);
+    QTest::keyClick(spinner, Qt::Key_Return);
+}
+
+} // namespace
+
+class tst_QUxIntegerSlider : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
+
+    void shouldLayOutLabelsSliderAndSpinnerInOrder();
+    void shouldShowLabelsOnlyWithText_data();
+    void shouldShowLabelsOnlyWithText();
+    void shouldShowSuffixInSpinner();
+    void shouldEmitOnlyWhenValueChanges();
+    void shouldFollowHandleInSpinner();
+    void shouldKeepTypedValueBeyondTravelWithinHardRange();
+    void shouldMoveBothRangesWithSoftLimits();
+};
+
+void tst_QUxIntegerSlider::shouldLayOutLabelsSliderAndSpinnerInOrder()
+{
+    QUxIntegerSlider slider(nullptr, "samples");
+    QCOMPARE(slider.objectName(), QStringLiteral("samples"));
+    QCOMPARE(slider.layout()->count(), 4);
+    QVERIFY(prefixLabel(slider));
+    QVERIFY(innerSlider(slider));
+    QVERIFY(specialSuffixLabel(slider));
+    QVERIFY(innerSpinner(slider));
+}
+
+void tst_QUxIntegerSlider::shouldShowLabelsOnlyWithText_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QString>("specialSuffix");
+    QTest::newRow("none") << QString() << QString();
+    QTest::newRow("prefix only") << QStringLiteral("Samples") << QString();
+    QTest::newRow("special suffix only") << QString() << QStringLiteral("auto");
+    QTest::newRow("both") << QStringLiteral("Width") << QStringLiteral("x2");
+}
+
+void tst_QUxIntegerSlider::shouldShowLabelsOnlyWithText()
+{
+    QFETCH(QString, prefix);
+    QFETCH(QString, specialSuffix);
+    QUxIntegerSlider slider;
+    slider.setPrefix(prefix);
+    slider.setSpecialSuffix(specialSuffix);
+    slider.show();
+
+    QCOMPARE(slider.prefix(), prefix);
+    QCOMPARE(slider.specialSuffix(), specialSuffix);
+    QCOMPARE(prefixLabel(slider)->text(), prefix);
+    QCOMPARE(specialSuffixLabel(slider)->text(), specialSuffix);
+    QCOMPARE(prefixLabel(slider)->isVisible(), !prefix.isEmpty());
+    QCOMPARE(specialSuffixLabel(slider)->isVisible(), !specialSuffix.isEmpty());
+
+    slider.setPrefix(QString());
+    slider.setSpecialSuffix(QString());
+    QVERIFY(!prefixLabel(slider)->isVisible());
+    QVERIFY(!specialSuffixLabel(slider)->isVisible());
+}
+
+void tst_QUxIntegerSlider::shouldShowSuffixInSpinner()
+{
+    QUxIntegerSlider slider;
+    slider.setSuffix(QStringLiteral(" px"));
+    slider.setValue(12);
+    QCOMPARE(slider.suffix(), QStringLiteral(" px"));
+    QCOMPARE(innerSpinner(slider)->text(), QStringLiteral("12 px"));
+    QVERIFY(!specialSuffixLabel(slider)->isVisibleTo(&slider));
+}
+
+void tst_QUxIntegerSlider::shouldEmitOnlyWhenValueChanges()
+{
+    QUxIntegerSlider slider;
+    QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
+    slider.setValue(40);
+    slider.setValue(40);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), 40);
+    QCOMPARE(slider.value(), 40);
+    QCOMPARE(innerSlider(slider)->value(), 40);
+    QCOMPARE(innerSpinner(slider)->value(), 40);
+}
+
+void tst_QUxIntegerSlider::shouldFollowHandleInSpinner()
+{
+    QUxIntegerSlider slider;
+    QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
+    innerSlider(slider)->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    QCOMPARE(innerSpinner(slider)->value(), 10);
+    QCOMPARE(slider.value(), 10);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), 10);
+}
+
+void tst_QUxIntegerSlider::shouldKeepTypedValueBeyondTravelWithinHardRange()
+{
+    QUxIntegerSlider slider;
+    slider.setMinimum(0);
+    slider.setMaximum(10);
+    slider.setHardMaximum(100);
+    slider.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&slider));
+    QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
+
+    typeIntoSpinner(slider, QStringLiteral("50"));
+    QCOMPARE(slider.value(), 50);
+    QCOMPARE(innerSlider(slider)->value(), 10);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), 50);
+
+    slider.setValue(500);
+    QCOMPARE(slider.value(), 100);
+    QCOMPARE(spy.last().at(0).toInt(), 100);
+    QCOMPARE(slider.maximum(), 10);
+    QCOMPARE(slider.hardMaximum(), 100);
+}
+
+void tst_QUxIntegerSlider::shouldMoveBothRangesWithSoftLimits()
+{
+    QUxIntegerSlider slider;
+    slider.setHardMinimum(-50);
+    QCOMPARE(slider.hardMinimum(), -50);
+    QCOMPARE(slider.minimum(), 0);
+
+    slider.setMinimum(5);
+    slider.setMaximum(20);
+    QCOMPARE(slider.minimum(), 5);
+    QCOMPARE(slider.maximum(), 20);
+    QCOMPARE(slider.hardMinimum(), 5);
+    QCOMPARE(slider.hardMaximum(), 20);
+    QCOMPARE(innerSlider(slider)->minimum(), 5);
+    QCOMPARE(innerSlider(slider)->maximum(), 20);
+    QCOMPARE(slider.value(), 5); // pulled into the new range
+}
+
+QTEST_MAIN(tst_QUxIntegerSlider)
+#include "tst_QUxIntegerSlider.moc"
