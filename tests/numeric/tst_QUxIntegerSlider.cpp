@@ -1,5 +1,7 @@
 #include <QUxIntegerSlider.h>
 
+#include <uxPlatform.h>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalSpy>
@@ -32,8 +34,11 @@ class tst_QUxIntegerSlider : public QObject
 
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
+    void init() { uxPlatform::reset(); }
 
     void shouldLayOutLabelsSliderAndSpinnerInOrder();
+    void shouldSizeSliderAndSpinnerByScale_data();
+    void shouldSizeSliderAndSpinnerByScale();
     void shouldShowLabelsOnlyWithText_data();
     void shouldShowLabelsOnlyWithText();
     void shouldShowSuffixInSpinner();
@@ -52,6 +57,48 @@ void tst_QUxIntegerSlider::shouldLayOutLabelsSliderAndSpinnerInOrder()
     QVERIFY(innerSlider(slider));
     QVERIFY(specialSuffixLabel(slider));
     QVERIFY(innerSpinner(slider));
+}
+
+void tst_QUxIntegerSlider::shouldSizeSliderAndSpinnerByScale_data()
+{
+    QTest::addColumn<double>("scaleX");
+    QTest::addColumn<double>("scaleY");
+    QTest::newRow("1") << 1.0 << 1.0;
+    QTest::newRow("1.5 x 2") << 1.5 << 2.0;
+}
+
+void tst_QUxIntegerSlider::shouldSizeSliderAndSpinnerByScale()
+{
+    QFETCH(double, scaleX);
+    QFETCH(double, scaleY);
+    uxPlatform::setDpiScale(scaleX, scaleY);
+    QUxIntegerSlider slider;
+
+    auto* layout = qobject_cast<QHBoxLayout*>(slider.layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins());
+    QCOMPARE(layout->spacing(), 6);
+
+    const QSlider* handle = innerSlider(slider);
+    QCOMPARE(handle->orientation(), Qt::Horizontal);
+    QCOMPARE(handle->sizePolicy().horizontalPolicy(), QSizePolicy::MinimumExpanding);
+    QCOMPARE(handle->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(handle->minimumHeight(), int(16 * scaleY));
+    QCOMPARE(handle->maximumHeight(), int(32 * scaleY));
+    QCOMPARE(handle->minimumWidth(), 32); // not scaled
+    QCOMPARE(handle->focusPolicy(), Qt::ClickFocus);
+    QCOMPARE(handle->tickPosition(), QSlider::NoTicks);
+
+    const QSpinBox* spinner = innerSpinner(slider);
+    QCOMPARE(spinner->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    QCOMPARE(spinner->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(spinner->minimumWidth(), int(62 * scaleX));
+    QCOMPARE(spinner->maximumWidth(), int(62 * scaleX));
+    QCOMPARE(spinner->minimumHeight(), int(16 * scaleY));
+    QCOMPARE(spinner->maximumHeight(), int(32 * scaleY));
+    QVERIFY(spinner->alignment() & Qt::AlignRight);
+    QCOMPARE(spinner->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+    QCOMPARE(spinner->focusPolicy(), Qt::StrongFocus);
 }
 
 void tst_QUxIntegerSlider::shouldShowLabelsOnlyWithText_data()

@@ -1,7 +1,9 @@
 #include <QUxDoubleSpiner.h>
 #include <QUxSlider.h>
+#include <uxPlatform.h>
 #include <uxUIStyle.h>
 
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSlider>
@@ -46,7 +48,11 @@ class tst_QUxSlider : public QObject
 
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
+    void init() { uxPlatform::reset(); }
 
+    void shouldDeclareSignalsAndSlotsByText();
+    void shouldSizeSliderAndSpinnerByScale_data();
+    void shouldSizeSliderAndSpinnerByScale();
     void shouldCutSoftRangeIntoTicksOfLineStep_data();
     void shouldCutSoftRangeIntoTicksOfLineStep();
     void shouldRoundHandleTowardPreviousValue_data();
@@ -56,11 +62,13 @@ private slots:
     void shouldClampToHardRange_data();
     void shouldClampToHardRange();
     void shouldClampCurrentValueWhenHardRangeShrinks();
+    void shouldIgnoreValueThatIsNotANumber();
     void shouldKeepTypedValueBeyondSoftRange();
     void shouldTakeValueFromHandleMoves();
     void shouldReportDragWithoutTrackingOnRelease();
     void shouldShowValueInSpinnerWithoutEcho();
     void shouldStepSpinnerByLineStep();
+    void shouldKeepPageStepInTicks_data();
     void shouldKeepPageStepInTicks();
     void shouldBuildFromFullConstructor();
     void shouldSwapSidesOfSliderAndSpinner();
@@ -69,6 +77,72 @@ private slots:
     void shouldPropagateMultiselectHighlight();
     void shouldRepolishInnerWidgetsForStyleSheet();
 };
+
+void tst_QUxSlider::shouldDeclareSignalsAndSlotsByText()
+{
+    QByteArrayList signalList;
+    QMap<QByteArray, QMetaMethod::Access> slotAccess;
+    const QMetaObject* meta = &QUxSlider::staticMetaObject;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        const QMetaMethod method = meta->method(i);
+        if (method.methodType() == QMetaMethod::Signal)
+            signalList << method.methodSignature();
+        else if (method.methodType() == QMetaMethod::Slot)
+            slotAccess.insert(method.methodSignature(), method.access());
+    }
+    QCOMPARE(signalList,
+             QByteArrayList({"valueChanged(double)", "sliderPressed()", "sliderMoved(double)", "sliderReleased()",
+                             "changedReturn()", "relativeOperatorApplied(RelativeOperator,double)"}));
+    const QByteArrayList publicSlots{"setMinimum(double)",     "setMaximum(double)",  "setHardMinimum(double)",
+                                     "setHardMaximum(double)", "setLineStep(double)", "setPageStep(double)",
+                                     "setValue(double)",       "onValueChanged(int)", "onSliderPressed()",
+                                     "onSliderMoved(int)",     "onSliderReleased()"};
+    for (const QByteArray& slot : publicSlots)
+        QVERIFY2(slotAccess.value(slot, QMetaMethod::Private) == QMetaMethod::Public, slot.constData());
+    QVERIFY(slotAccess.contains("appliedRelativeOperator(RelativeOperator,double)"));
+    QCOMPARE(slotAccess.value("appliedRelativeOperator(RelativeOperator,double)"), QMetaMethod::Private);
+}
+
+void tst_QUxSlider::shouldSizeSliderAndSpinnerByScale_data()
+{
+    QTest::addColumn<double>("scaleX");
+    QTest::addColumn<double>("scaleY");
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::newRow("horizontal at 1") << 1.0 << 1.0 << Qt::Horizontal;
+    QTest::newRow("horizontal at 1.5 x 2") << 1.5 << 2.0 << Qt::Horizontal;
+    QTest::newRow("vertical keeps the same bounds") << 1.0 << 1.0 << Qt::Vertical;
+    QTest::newRow("vertical at 2 x 1.5") << 2.0 << 1.5 << Qt::Vertical;
+}
+
+void tst_QUxSlider::shouldSizeSliderAndSpinnerByScale()
+{
+    QFETCH(double, scaleX);
+    QFETCH(double, scaleY);
+    QFETCH(Qt::Orientation, orientation);
+    uxPlatform::setDpiScale(scaleX, scaleY);
+    QUxSlider slider(0.0, 1.0, 0.1, 0.0, orientation);
+
+    const QSlider* handle = innerSlider(slider);
+    QCOMPARE(handle->orientation(), orientation);
+    QCOMPARE(handle->minimumHeight(), int(16 * scaleY));
+    QCOMPARE(handle->maximumHeight(), int(32 * scaleY));
+    QCOMPARE(handle->minimumWidth(), int(32 * scaleX));
+
+    const QUxDoubleSpiner* spinner = innerSpinner(slider);
+    QCOMPARE(spinner->minimumWidth(), int(62 * scaleX));
+    QCOMPARE(spinner->maximumWidth(), int(62 * scaleX));
+    QCOMPARE(spinner->minimumHeight(), int(16 * scaleY));
+    QCOMPARE(spinner->maximumHeight(), int(32 * scaleY));
+    QVERIFY(spinner->alignment() & Qt::AlignRight);
+    QCOMPARE(spinner->buttonSymbols(), QAbstractSpinBox::NoButtons);
+
+    auto* grid = qobject_cast<QGridLayout*>(slider.layout());
+    QVERIFY(grid);
+    QCOMPARE(grid->contentsMargins(), QMargins());
+    QCOMPARE(grid->columnStretch(0), 1);
+    QCOMPARE(grid->columnStretch(1), 0);
+    QCOMPARE(slider.sizeHint(), QSize(int(130 * scaleX), qRound(20 * scaleY)));
+}
 
 void tst_QUxSlider::shouldCutSoftRangeIntoTicksOfLineStep_data()
 {
@@ -183,6 +257,18 @@ void tst_QUxSlider::shouldClampCurrentValueWhenHardRangeShrinks()
     QCOMPARE(slider.hardMaxValue(), 2.0);
 }
 
+void tst_QUxSlider::shouldIgnoreValueThatIsNotANumber()
+{
+    QUxSlider slider;
+    slider.setValue(0.4);
+    QSignalSpy spy(&slider, &QUxSlider::valueChanged);
+    slider.setValue(std::nan(""));
+    QCOMPARE(slider.value(), 0.4);
+    QCOMPARE(innerSpinner(slider)->value(), 0.4);
+    QCOMPARE(innerSlider(slider)->value(), 4);
+    QCOMPARE(spy.count(), 0);
+}
+
 void tst_QUxSlider::shouldKeepTypedValueBeyondSoftRange()
 {
     QUxSlider slider;
@@ -252,13 +338,29 @@ void tst_QUxSlider::shouldStepSpinnerByLineStep()
     QCOMPARE(spy.count(), 1);
 }
 
+void tst_QUxSlider::shouldKeepPageStepInTicks_data()
+{
+    QTest::addColumn<double>("pageStep");
+    QTest::addColumn<int>("ticks");
+    QTest::addColumn<double>("value");
+    // Line step 0.5: the page step is set in ticks and read back in value units.
+    QTest::newRow("truncated to whole ticks") << 3.7 << 3 << 1.5;
+    QTest::newRow("below one tick") << 0.9 << 0 << 0.0;
+    QTest::newRow("beyond the int range") << 1e300 << INT_MAX << INT_MAX * 0.5;
+    QTest::newRow("far below the int range counts its size") << -1e300 << INT_MAX << INT_MAX * 0.5;
+    QTest::newRow("not a number") << std::nan("") << 0 << 0.0;
+}
+
 void tst_QUxSlider::shouldKeepPageStepInTicks()
 {
+    QFETCH(double, pageStep);
+    QFETCH(int, ticks);
+    QFETCH(double, value);
     QUxSlider slider;
-    slider.setSteps(0.5, 3.7);
+    slider.setSteps(0.5, pageStep);
     QCOMPARE(slider.lineStep(), 0.5);
-    QCOMPARE(innerSlider(slider)->pageStep(), 3);
-    QCOMPARE(slider.pageStep(), 1.5);
+    QCOMPARE(innerSlider(slider)->pageStep(), ticks);
+    QCOMPARE(slider.pageStep(), value);
 }
 
 void tst_QUxSlider::shouldBuildFromFullConstructor()

@@ -64,6 +64,9 @@ void tst_QUxSliderSwitch::shouldScaleSizeHintWithDpi()
     QUxSliderSwitch sw;
     QCOMPARE(sw.sizeHint(), size);
     QCOMPARE(sw.minimumSizeHint(), size);
+    QCOMPARE(sw.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(sw.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QVERIFY(sw.testAttribute(Qt::WA_Hover));
 }
 
 void tst_QUxSliderSwitch::shouldToggleOnlyOnLeftRelease_data()

@@ -74,6 +74,7 @@ private slots:
     void shouldTurnWithMouseWheel();
     void shouldBringWheeledValueBackWithNextDragStep();
     void shouldHintSizeByOrientationAndScale();
+    void shouldPaintEveryPixel_data();
     void shouldPaintEveryPixel();
     void shouldMoveRibsWithValue_data();
     void shouldMoveRibsWithValue();
@@ -276,8 +277,10 @@ void tst_QUxWheel::shouldReportIncrementsInRelativeMode()
     QVERIFY(uxTest::grab(&wheel) != before); // the ribs follow the hand even though the value stays
     QCOMPARE(wheel.value(), 7.0);
     QCOMPARE(changed.count(), 0);
-    QCOMPARE(added.count(), 1);
+    // The release is a drag step of its own, reported even when it adds nothing.
+    QCOMPARE(added.count(), 2);
     QCOMPARE(added.at(0).at(0).toDouble(), 30.0);
+    QCOMPARE(added.at(1).at(0).toDouble(), 0.0);
 }
 
 void tst_QUxWheel::shouldApplyReleaseStepOfButtonThatNeverPressed()
@@ -425,9 +428,20 @@ void tst_QUxWheel::shouldHintSizeByOrientationAndScale()
     QCOMPARE(wheel.sizeHint(), QSize(195, 40));
 }
 
+void tst_QUxWheel::shouldPaintEveryPixel_data()
+{
+    QTest::addColumn<int>("cogs");
+    QTest::newRow("default ribs") << 17;
+    QTest::newRow("one rib") << 1;
+    QTest::newRow("more ribs than pixels") << INT_MAX;
+}
+
 void tst_QUxWheel::shouldPaintEveryPixel()
 {
+    QFETCH(int, cogs);
     QUxWheel wheel;
+    wheel.setCogCount(cogs);
+    QCOMPARE(wheel.cogCount(), cogs);
     wheel.resize(130, 20);
     const QImage image = uxTest::grab(&wheel);
     for (int y = 0; y < image.height(); ++y)

@@ -58,6 +58,7 @@ private slots:
     void init() { uxPlatform::reset(); }
 
     void shouldPlaceFieldBeforeWheel();
+    void shouldDeclareSignalsInOrder();
     void shouldForwardSettingsToField();
     void shouldEmitOnceForProgrammaticValue();
     void shouldReportValueClampedByNewRange();
@@ -91,6 +92,34 @@ void tst_QUxWheelPrec::shouldPlaceFieldBeforeWheel()
     QVERIFY(control.spiner()->geometry().right() < control.wheel()->geometry().left());
     QVERIFY(control.wheel()->width() >= 40);
     QCOMPARE(control.buttonSymbols(), QAbstractSpinBox::NoButtons);
+}
+
+void tst_QUxWheelPrec::shouldDeclareSignalsInOrder()
+{
+    // The vector controls and hosts connect these by their text.
+    const QByteArrayList signatures{"valueChanged(double)", "relativeOperatorApplied(RelativeOperator,double)",
+                                    "sliderPressed()",      "sliderReleased()",
+                                    "mouseButtonPressed()", "mouseButtonReleased()",
+                                    "focusGained()",        "singleStepChanged(double)",
+                                    "editingFinished()"};
+    QByteArrayList declared;
+    const QMetaObject* meta = &QUxWheelPrec::staticMetaObject;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        if (meta->method(i).methodType() == QMetaMethod::Signal)
+            declared << meta->method(i).methodSignature();
+    }
+    QCOMPARE(declared, signatures);
+
+    QUxWheelPrec control;
+    control.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
+    QSignalSpy byText(&control, SIGNAL(relativeOperatorApplied(RelativeOperator, double)));
+    QVERIFY(byText.isValid());
+    control.spiner()->selectAll();
+    QTest::keyClicks(control.spiner(), QStringLiteral("*=3"));
+    QTest::keyClick(control.spiner(), Qt::Key_Return);
+    QCOMPARE(byText.count(), 1);
+    QCOMPARE(byText.at(0).at(0).value<Operator>(), QUxDoubleSpiner::RelativeMultiply);
+    QCOMPARE(byText.at(0).at(1).toDouble(), 3.0);
 }
 
 void tst_QUxWheelPrec::shouldForwardSettingsToField()
@@ -132,10 +161,13 @@ void tst_QUxWheelPrec::shouldEmitOnceForProgrammaticValue()
     control.setValue(3.5);
     control.setValue(3.5);
     control.setValue(20.0);
-    QCOMPARE(spy.count(), 2);
+    control.setValue(4.0);
+    control.setValue(std::nan("")); // not a number: ignored, not taken for a bound
+    QCOMPARE(spy.count(), 3);
     QCOMPARE(spy.at(0).at(0).toDouble(), 3.5);
     QCOMPARE(spy.at(1).at(0).toDouble(), 10.0);
-    QCOMPARE(control.value(), 10.0);
+    QCOMPARE(spy.at(2).at(0).toDouble(), 4.0);
+    QCOMPARE(control.value(), 4.0);
     QCOMPARE(fieldSpy.count(), 0);
 }
 

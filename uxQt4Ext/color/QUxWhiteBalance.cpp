@@ -1,5 +1,7 @@
 #include "QUxWhiteBalance.h"
 
+#include "uxChildSignals_p.h"
+
 #include <uxPlatform.h>
 
 #include <QHBoxLayout>
@@ -41,7 +43,7 @@ QUxWhiteBalance::QUxWhiteBalance(QWidget* parent, const char* name) : QWidget(pa
     init();
 }
 
-QUxWhiteBalance::~QUxWhiteBalance() = default;
+QUxWhiteBalance::~QUxWhiteBalance() { uxDisconnectChildSignals(this); }
 
 void QUxWhiteBalance::init()
 {
@@ -135,13 +137,12 @@ int QUxWhiteBalance::maximum() const { return d->spinBox->maximum(); }
 
 void QUxWhiteBalance::setValue(int value)
 {
-    // Compare after clamping, so that an out-of-range request neither reports
-    // a value the control does not hold nor repeats an unchanged one.
-    const int accepted = qBound(d->spinBox->minimum(), value, d->spinBox->maximum());
-    if (d->spinBox->value() == accepted)
+    // Hosts rely on hearing the requested value itself, after the spin box's
+    // own (possibly clamped) report; only a request for the shown value is quiet.
+    if (d->spinBox->value() == value)
         return;
-    d->spinBox->setValue(accepted);
-    emit valueChanged(accepted);
+    d->spinBox->setValue(value);
+    emit valueChanged(value);
 }
 
 void QUxWhiteBalance::setMinimum(int minimum) { d->spinBox->setMinimum(minimum); }

@@ -1,5 +1,6 @@
 #include "QUxIntegerSlider.h"
 
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 
 #include <uxPlatform.h>
@@ -44,7 +45,7 @@ QUxIntegerSlider::QUxIntegerSlider(QWidget* parent, const char* name)
     init();
 }
 
-QUxIntegerSlider::~QUxIntegerSlider() = default;
+QUxIntegerSlider::~QUxIntegerSlider() { uxDisconnectChildSignals(this); }
 
 void QUxIntegerSlider::init()
 {

@@ -1,5 +1,6 @@
 #include "QUxSlider.h"
 
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 
 #include <uxPlatform.h>
@@ -11,6 +12,7 @@
 #include <QStyle>
 
 #include <cfloat>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -35,6 +37,14 @@ int roundTicks(double ticks, Rounding rounding)
     if (std::abs(ticks - nearest) < TickTolerance || rounding == Rounding::Nearest)
         return int(nearest);
     return int(rounding == Rounding::Down ? std::floor(ticks) : std::ceil(ticks));
+}
+
+/// (int) @p pageStep, kept inside the int range.
+int pageTicksOf(double pageStep)
+{
+    if (std::isnan(pageStep))
+        return 0;
+    return int(qBound(-double(INT_MAX), pageStep, double(INT_MAX)));
 }
 
 } // namespace
@@ -90,7 +100,7 @@ QUxSlider::QUxSlider(double minimum, double maximum, double lineStep, double val
     setValue(value);
 }
 
-QUxSlider::~QUxSlider() = default;
+QUxSlider::~QUxSlider() { uxDisconnectChildSignals(this); }
 
 void QUxSlider::init(Qt::Orientation orientation, const char* name)
 {
@@ -102,16 +112,11 @@ void QUxSlider::init(Qt::Orientation orientation, const char* name)
     const double dpiX = uxPlatform::getDpiScaleX();
     const double dpiY = uxPlatform::getDpiScaleY();
 
+    // The same bounds in either orientation: the slider shares one row with the spin box.
     d->slider = new QSlider(orientation, this);
-    if (orientation == Qt::Horizontal) {
-        d->slider->setMinimumHeight(int(16 * dpiY));
-        d->slider->setMaximumHeight(int(32 * dpiY));
-        d->slider->setMinimumWidth(int(32 * dpiX));
-    } else {
-        d->slider->setMinimumWidth(int(16 * dpiX));
-        d->slider->setMaximumWidth(int(32 * dpiX));
-        d->slider->setMinimumHeight(int(32 * dpiY));
-    }
+    d->slider->setMinimumHeight(int(16 * dpiY));
+    d->slider->setMaximumHeight(int(32 * dpiY));
+    d->slider->setMinimumWidth(int(32 * dpiX));
     d->pageTicks = d->slider->pageStep();
 
     d->spinner = new QUxDoubleSpiner(this);
@@ -146,6 +151,8 @@ double QUxSlider::value() const { return d->value; }
 
 void QUxSlider::setValue(double value)
 {
+    if (std::isnan(value))
+        return; // no clamp can make a number of it
     const double previous = d->value;
     d->value = qBound(d->hardMinValue, value, d->hardMaxValue);
     showInSpinner(d->value);
@@ -211,7 +218,7 @@ double QUxSlider::lineStep() const { return d->lineStep; }
 
 void QUxSlider::setPageStep(double pageStep)
 {
-    d->pageTicks = int(pageStep);
+    d->pageTicks = pageTicksOf(pageStep);
     adjustSlider();
 }
 

@@ -224,12 +224,12 @@ public:
     /// Set while the base's integer value is being brought in line with ours.
     bool syncingBase = false;
 
-    /// Rib rotation in radians, within one rib spacing.
-    double ribPhase(double radius) const
+    /// Rib rotation in radians, within one spacing of @p cogs ribs.
+    double ribPhase(double radius, int cogs) const
     {
         const double step = singleStep != 0.0 ? std::fabs(singleStep) : 1.0;
         const double pixels = (value + relativeTravel) / step * transmissionRatio;
-        const double spacing = M_PI / cogCount;
+        const double spacing = M_PI / cogs;
         if (radius <= 0.0 || !std::isfinite(pixels))
             return 0.0;
         const double phase = std::fmod(pixels / radius, spacing);
@@ -432,13 +432,14 @@ void QUxWheel::paintEvent(QPaintEvent*)
     WheelLook look;
     look.length = horizontal ? width() : height();
     look.thickness = horizontal ? height() : width();
-    look.cogs = d->cogCount;
+    // Ribs finer than a pixel would not show, and their count bounds the painting loop.
+    look.cogs = qBound(1, d->cogCount, qMax(1, int(look.length)));
     look.pressed = d->pressed || isSliderDown();
     look.focused = hasFocus();
     look.enabled = isEnabled();
     look.group = !isEnabled() ? QPalette::Disabled : (isActiveWindow() ? QPalette::Active : QPalette::Inactive);
     look.palette = palette();
-    look.phase = d->ribPhase(bodyRect(look).width() / 2.0);
+    look.phase = d->ribPhase(bodyRect(look).width() / 2.0, look.cogs);
 
     paintHousing(p, look);
     paintCylinder(p, look);
@@ -470,8 +471,6 @@ void QUxWheel::applyDragStep(int position)
         applyRangeRule(d->value + increment);
         return;
     }
-    if (increment == 0.0)
-        return;
     d->relativeTravel += increment;
     update();
     emit valueAdded(increment);

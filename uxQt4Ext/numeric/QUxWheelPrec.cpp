@@ -1,12 +1,15 @@
 #include "QUxWheelPrec.h"
 
 #include "QUxWheel.h"
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 #include "uxUIStyle.h"
 
 #include <uxPlatform.h>
 
 #include <QHBoxLayout>
+
+#include <cmath>
 
 namespace {
 
@@ -49,7 +52,7 @@ QUxWheelPrec::QUxWheelPrec(QWidget* parent) : QWidget(parent), d(std::make_uniqu
     connectWheel();
 }
 
-QUxWheelPrec::~QUxWheelPrec() = default;
+QUxWheelPrec::~QUxWheelPrec() { uxDisconnectChildSignals(this); }
 
 void QUxWheelPrec::connectField()
 {
@@ -102,6 +105,8 @@ double QUxWheelPrec::value() const { return d->spiner->value(); }
 
 void QUxWheelPrec::setValue(double value)
 {
+    if (std::isnan(value))
+        return; // the field would take it for its maximum
     changeField([&] { d->spiner->setValue(value); });
 }
 

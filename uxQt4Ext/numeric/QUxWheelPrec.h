@@ -50,6 +50,8 @@ class UXQT4EXT_EXPORT QUxWheelPrec : public QWidget
     Q_PROPERTY(QSize maximumSpinerSize READ maximumSpinerSize WRITE setMaximumSpinerSize)
 
 public:
+    using RelativeOperator = QUxDoubleSpiner::RelativeOperator;
+
     explicit QUxWheelPrec(QWidget* parent = nullptr);
     ~QUxWheelPrec() override;
 
@@ -107,7 +109,7 @@ public slots:
 
 signals:
     void valueChanged(double value);
-    void relativeOperatorApplied(QUxDoubleSpiner::RelativeOperator op, double value);
+    void relativeOperatorApplied(RelativeOperator op, double value);
     /// The wheel was grabbed with the mouse.
     void sliderPressed();
     void sliderReleased();
