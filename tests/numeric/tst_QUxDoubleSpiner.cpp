@@ -78,12 +78,15 @@ class tst_QUxDoubleSpiner : public QObject
     Q_OBJECT
 
 private slots:
+    void shouldRestoreDragCursorWhenDeletedMidDrag();
     void shouldApplyRelativeOperatorForHosts_data();
     void shouldApplyRelativeOperatorForHosts();
     void initTestCase();
     void init();
 
     void shouldStartWithItsDocumentedSetup();
+    void shouldDeclareSignaturesHostsConnectByText_data();
+    void shouldDeclareSignaturesHostsConnectByText();
     void shouldHintNinetyPixelsBySmallIconHeight();
     void shouldValidateTypedText_data();
     void shouldValidateTypedText();
@@ -128,6 +131,8 @@ void tst_QUxDoubleSpiner::shouldStartWithItsDocumentedSetup()
     QUxDoubleSpiner spin;
     QCOMPARE(spin.focusPolicy(), Qt::WheelFocus);
     QCOMPARE(spin.alignment(), Qt::AlignRight | Qt::AlignVCenter);
+    QCOMPARE(spin.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(spin.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
     QCOMPARE(spin.minimum(), -2147483647.0);
     QCOMPARE(spin.maximum(), 2147483647.0);
     QCOMPARE(spin.decimals(), 10);
@@ -139,6 +144,41 @@ void tst_QUxDoubleSpiner::shouldStartWithItsDocumentedSetup()
     QVERIFY(!spin.displaySceneUnit());
     QCOMPARE(spin.relativeOperatorHandlingMode(), QUxDoubleSpiner::ApplyRelativeOperator);
     QCOMPARE(spin.property("displayDecimals").toInt(), 6);
+    for (const char* name : {"showStepHint", "useExactDisplayDecimals", "displaySceneUnit"})
+        QVERIFY2(spin.property(name).isValid(), name);
+}
+
+void tst_QUxDoubleSpiner::shouldDeclareSignaturesHostsConnectByText_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("signature");
+    const QString signal = QStringLiteral("signal");
+    const QString slot = QStringLiteral("slot");
+    QTest::newRow("singleStepChanged") << signal << "singleStepChanged(double)";
+    QTest::newRow("mouseButtonPressed") << signal << "mouseButtonPressed()";
+    QTest::newRow("mouseButtonReleased") << signal << "mouseButtonReleased()";
+    QTest::newRow("relativeOperatorChanged") << signal << "relativeOperatorChanged(RelativeOperator,double)";
+    QTest::newRow("relativeOperatorApplied") << signal << "relativeOperatorApplied(RelativeOperator,double)";
+    QTest::newRow("focusGained") << signal << "focusGained()";
+    QTest::newRow("setSingleStep") << slot << "setSingleStep(double)";
+    QTest::newRow("stepEditingFinished") << slot << "stepEditingFinished()";
+    QTest::newRow("setDisplayDecimals") << slot << "setDisplayDecimals(int)";
+    QTest::newRow("setUseExactDisplayDecimals") << slot << "setUseExactDisplayDecimals(bool)";
+    QTest::newRow("finishedEditing") << slot << "finishedEditing()";
+    QTest::newRow("changedValue") << slot << "changedValue(QString)";
+    QTest::newRow("checkInput") << slot << "checkInput(QString)";
+    QTest::newRow("updateVisualInputFeedback") << slot << "updateVisualInputFeedback()";
+    QTest::newRow("setCurrentRelativeOperator") << slot << "setCurrentRelativeOperator(RelativeOperator,double)";
+}
+
+void tst_QUxDoubleSpiner::shouldDeclareSignaturesHostsConnectByText()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, signature);
+    const QMetaObject& meta = QUxDoubleSpiner::staticMetaObject;
+    const QByteArray text = signature.toLatin1();
+    const int index = kind == QLatin1String("signal") ? meta.indexOfSignal(text) : meta.indexOfSlot(text);
+    QVERIFY2(index >= meta.methodOffset(), text.constData());
 }
 
 void tst_QUxDoubleSpiner::shouldHintNinetyPixelsBySmallIconHeight()
@@ -239,6 +279,7 @@ void tst_QUxDoubleSpiner::shouldCommitTypedText_data()
     QTest::newRow("clamped below") << 0.0 << "-50*100" << apply << -100.0;
     QTest::newRow("relative clamped") << 50.0 << "+=1000" << apply << 100.0;
     QTest::newRow("infinity clamped") << 0.0 << "1/0" << apply << 100.0;
+    QTest::newRow("zero times infinity keeps value") << 0.0 << "*=1/0" << apply << 0.0;
     QTest::newRow("relative kept in emit mode") << 5.0 << "+=2" << emitting << 5.0;
     QTest::newRow("expression in emit mode") << 5.0 << "3*3" << emitting << 9.0;
 }
@@ -325,6 +366,7 @@ void tst_QUxDoubleSpiner::shouldRemoveGroupSeparatorsOfOtherLocales()
     spin.setLocale(QLocale(QLocale::German, QLocale::Germany));
     QCOMPARE(spin.textFromValue(1234.5), QStringLiteral("1234,50"));
     QCOMPARE(spin.textFromValue(0.5), QStringLiteral("0,50"));
+    QCOMPARE(spin.textFromValue(-999.9999999), QStringLiteral("-1000,00"));
 }
 
 void tst_QUxDoubleSpiner::shouldClampDisplayDecimals_data()
@@ -351,6 +393,8 @@ void tst_QUxDoubleSpiner::shouldIgnoreStepsBelowTheSmallestStep()
     QUxDoubleSpiner spin;
     QSignalSpy steps(&spin, &QUxDoubleSpiner::singleStepChanged);
     spin.setSingleStep(1e-9);
+    spin.setSingleStep(std::nan(""));
+    spin.setSingleStep(HUGE_VAL);
     QCOMPARE(spin.singleStep(), 1.0);
     QCOMPARE(steps.count(), 0);
 
@@ -580,6 +624,7 @@ void tst_QUxDoubleSpiner::shouldEditStepSizeInContextMenu()
     auto* menu = editOf(spin)->findChild<QMenu*>();
     QVERIFY(menu);
     QTRY_VERIFY_WITH_TIMEOUT(menu->isVisible(), 3000);
+    QCOMPARE(menu->pos(), spin.mapToGlobal(QPoint(10, 10)));
     auto* action = qobject_cast<QWidgetAction*>(menu->defaultAction());
     QVERIFY(action);
     auto* editor = qobject_cast<QUxDoubleSpiner*>(action->defaultWidget());
@@ -602,6 +647,9 @@ void tst_QUxDoubleSpiner::shouldEditStepSizeInContextMenu()
     QContextMenuEvent again(QContextMenuEvent::Keyboard, QPoint(10, 10));
     QApplication::sendEvent(&spin, &again);
     QCOMPARE(editOf(spin)->findChildren<QMenu*>().size(), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(menu->isVisible(), 3000);
+    // a keyboard request has no pointer position: half a box right of the request, at mid height
+    QCOMPARE(menu->pos(), spin.mapToGlobal(QPoint(10, 0)) + QPoint(spin.width() / 2, spin.height() / 2));
     menu->hide();
 }
 
@@ -634,6 +682,11 @@ void tst_QUxDoubleSpiner::shouldUpdateSceneUnitOnAllRegisteredInstances()
     QUxDoubleSpiner::updateInstancesWithSceneUnit();
     QCOMPARE(first.suffix(), QStringLiteral(" m"));
     QCOMPARE(second.suffix(), QString());
+
+    // switching on again reads the unit anew, even without the class-wide update
+    uxUIUtils::setSceneUnitScale(10.0f);
+    first.setDisplaySceneUnit(true);
+    QCOMPARE(first.suffix(), QStringLiteral(" cm"));
 }
 
 void tst_QUxDoubleSpiner::shouldApplyRelativeOperatorForHosts_data()
@@ -648,6 +701,7 @@ void tst_QUxDoubleSpiner::shouldApplyRelativeOperatorForHosts_data()
     QTest::newRow("/= 0 keeps the value") << int(QUxDoubleSpiner::RelativeDivide) << 0.0 << 10.0;
     QTest::newRow("set") << int(QUxDoubleSpiner::RelativeSet) << -1.0 << -1.0;
     QTest::newRow("none") << int(QUxDoubleSpiner::NoRelativeOperator) << 99.0 << 10.0;
+    QTest::newRow("*= NaN keeps the value") << int(QUxDoubleSpiner::RelativeMultiply) << double(NAN) << 10.0;
 }
 
 void tst_QUxDoubleSpiner::shouldApplyRelativeOperatorForHosts()
@@ -656,6 +710,19 @@ void tst_QUxDoubleSpiner::shouldApplyRelativeOperatorForHosts()
     QFETCH(double, operand);
     QFETCH(double, expected);
     QCOMPARE(QUxDoubleSpiner::applyRelativeOperator(10.0, QUxDoubleSpiner::RelativeOperator(op), operand), expected);
+}
+
+void tst_QUxDoubleSpiner::shouldRestoreDragCursorWhenDeletedMidDrag()
+{
+    while (QGuiApplication::overrideCursor())
+        QGuiApplication::restoreOverrideCursor();
+    auto* spin = new QUxDoubleSpiner;
+    spin->show();
+    QWidget* edit = spin->findChild<QLineEdit*>();
+    QTest::mousePress(edit, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 5));
+    QVERIFY(QGuiApplication::overrideCursor());
+    delete spin;
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 QTEST_MAIN(tst_QUxDoubleSpiner)

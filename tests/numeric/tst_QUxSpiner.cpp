@@ -89,6 +89,7 @@ private slots:
     void init();
 
     void shouldStartWithItsDocumentedSetup();
+    void shouldDeclareSignaturesHostsConnectByText();
     void shouldHintNinetyPixelsBySmallIconHeight();
     void shouldEmitEveryStepWithoutLowerLimit_data();
     void shouldEmitEveryStepWithoutLowerLimit();
@@ -127,6 +128,16 @@ void tst_QUxSpiner::shouldStartWithItsDocumentedSetup()
     QVERIFY(!spin.isEditingStep());
 }
 
+void tst_QUxSpiner::shouldDeclareSignaturesHostsConnectByText()
+{
+    const QMetaObject& meta = QUxSpiner::staticMetaObject;
+    QVERIFY(meta.indexOfSignal("singleStepChanged(int)") >= meta.methodOffset());
+    QVERIFY(meta.indexOfSlot("setSingleStep(int)") >= meta.methodOffset());
+    QVERIFY(meta.indexOfSlot("finishedEditing()") >= meta.methodOffset());
+    for (const char* name : {"showStepHint", "autoStepsOnMousePress", "displaySceneUnit"})
+        QVERIFY2(meta.indexOfProperty(name) >= meta.propertyOffset(), name);
+}
+
 void tst_QUxSpiner::shouldHintNinetyPixelsBySmallIconHeight()
 {
     QUxSpiner spin;
@@ -157,29 +168,37 @@ void tst_QUxSpiner::shouldEmitEveryStepWithoutLowerLimit()
 void tst_QUxSpiner::shouldDragValueWithMiddleButton_data()
 {
     QTest::addColumn<int>("button");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("step");
     QTest::addColumn<int>("fromX");
     QTest::addColumn<int>("toX");
     QTest::addColumn<int>("expected");
 
-    QTest::newRow("middle left") << int(Qt::MiddleButton) << 60 << 50 << 70;
-    QTest::newRow("middle right") << int(Qt::MiddleButton) << 60 << 64 << 112;
-    QTest::newRow("middle still") << int(Qt::MiddleButton) << 60 << 60 << 100;
-    QTest::newRow("left selects text") << int(Qt::LeftButton) << 60 << 90 << 100;
-    QTest::newRow("right") << int(Qt::RightButton) << 60 << 90 << 100;
-    QTest::newRow("back button") << int(Qt::BackButton) << 60 << 90 << 100;
+    const int middle = Qt::MiddleButton;
+    QTest::newRow("middle left") << middle << 100 << 3 << 60 << 50 << 70;
+    QTest::newRow("middle right") << middle << 100 << 3 << 60 << 64 << 112;
+    QTest::newRow("middle still") << middle << 100 << 3 << 60 << 60 << 100;
+    QTest::newRow("left selects text") << int(Qt::LeftButton) << 100 << 3 << 60 << 90 << 100;
+    QTest::newRow("right") << int(Qt::RightButton) << 100 << 3 << 60 << 90 << 100;
+    QTest::newRow("back button") << int(Qt::BackButton) << 100 << 3 << 60 << 90 << 100;
+    QTest::newRow("clamped at the top") << middle << 2147483600 << 100 << 60 << 61 << 2147483647;
+    QTest::newRow("clamped at the bottom") << middle << -2147483600 << 100 << 60 << 59 << -2147483647;
+    QTest::newRow("huge step clamped") << middle << 0 << 1073741824 << 60 << 64 << 2147483647;
 }
 
 void tst_QUxSpiner::shouldDragValueWithMiddleButton()
 {
     QFETCH(int, button);
+    QFETCH(int, start);
+    QFETCH(int, step);
     QFETCH(int, fromX);
     QFETCH(int, toX);
     QFETCH(int, expected);
 
     QUxSpiner spin;
     spin.resize(200, 30);
-    spin.setValue(100);
-    spin.setSingleStep(3);
+    spin.setValue(start);
+    spin.setSingleStep(step);
     dragWith(spin, Qt::MouseButton(button), fromX, toX);
     QCOMPARE(spin.value(), expected);
 }
@@ -240,6 +259,8 @@ void tst_QUxSpiner::shouldEditOwnStepAndRestoreAfterwards()
     QSignalSpy values(&spin, QOverload<int>::of(&QSpinBox::valueChanged));
     QSignalSpy steps(&spin, &QUxSpiner::singleStepChanged);
 
+    withContextMenu(spin, [](QMenu* menu) { choose(menu, QStringLiteral("Step...")); });
+    // asked twice, the box still comes back to its own value and range
     withContextMenu(spin, [](QMenu* menu) { choose(menu, QStringLiteral("Step...")); });
     QVERIFY(spin.isEditingStep());
     QCOMPARE(spin.prefix(), QStringLiteral("step "));
@@ -340,6 +361,11 @@ void tst_QUxSpiner::shouldUpdateSceneUnitOnAllRegisteredInstances()
     QUxSpiner::updateInstancesWithSceneUnit();
     QCOMPARE(first.suffix(), QStringLiteral(" m"));
     QCOMPARE(second.suffix(), QString());
+
+    // switching on again reads the unit anew, even without the class-wide update
+    uxUIUtils::setSceneUnitScale(10.0f);
+    first.setDisplaySceneUnit(true);
+    QCOMPARE(first.suffix(), QStringLiteral(" cm"));
 }
 
 QTEST_MAIN(tst_QUxSpiner)

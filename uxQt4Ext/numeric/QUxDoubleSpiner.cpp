@@ -98,6 +98,25 @@ void registerRelativeOperatorType()
     Q_UNUSED(registered)
 }
 
+double combined(double value, QUxDoubleSpiner::RelativeOperator op, double operand)
+{
+    switch (op) {
+    case QUxDoubleSpiner::RelativeAdd:
+        return value + operand;
+    case QUxDoubleSpiner::RelativeSubtract:
+        return value - operand;
+    case QUxDoubleSpiner::RelativeMultiply:
+        return value * operand;
+    case QUxDoubleSpiner::RelativeDivide:
+        return operand == 0.0 ? value : value / operand;
+    case QUxDoubleSpiner::RelativeSet:
+        return operand;
+    case QUxDoubleSpiner::NoRelativeOperator:
+        break;
+    }
+    return value;
+}
+
 } // namespace
 
 class QUxDoubleSpinerPrivate
@@ -108,6 +127,7 @@ public:
     bool pressed = false;
     int lastMouseX = 0;
     int mouseMode = ButtonsReleased;
+    bool dragCursorShown = false; // the override cursor this box pushed for a middle-button drag
     bool showStepHint = true;
     QMenu* stepMenu = nullptr;
     QTimer* feedbackTimer = nullptr;
@@ -148,7 +168,13 @@ QUxDoubleSpiner::QUxDoubleSpiner(QWidget* parent)
     connect(lineEdit(), &QLineEdit::textEdited, this, &QUxDoubleSpiner::checkInput);
 }
 
-QUxDoubleSpiner::~QUxDoubleSpiner() { QUxDoubleSpinerPrivate::s_instancesWithSceneUnit.remove(this); }
+QUxDoubleSpiner::~QUxDoubleSpiner()
+{
+    // A box deleted in the middle of a drag must not leave the whole application with its cursor.
+    if (d->dragCursorShown)
+        QGuiApplication::restoreOverrideCursor();
+    QUxDoubleSpinerPrivate::s_instancesWithSceneUnit.remove(this);
+}
 
 QSize QUxDoubleSpiner::sizeHint() const
 {
@@ -231,7 +257,8 @@ QString QUxDoubleSpiner::textFromValue(double value) const
                              : qMax(2, significantDecimals(QString::number(value, 'f', d->displayDecimals)));
     const QLocale loc = locale();
     QString text = loc.toString(value, 'f', decimals);
-    if (qAbs(value) >= 1000.0)
+    // Judged on the shown digits: 999.9999 rounds up to a grouped "1,000.00".
+    if (qAbs(QString::number(value, 'f', decimals).toDouble()) >= 1000.0)
         text.remove(loc.groupSeparator());
     return text;
 }
@@ -268,8 +295,7 @@ bool QUxDoubleSpiner::displaySceneUnit() const { return d->displaySceneUnit; }
 
 void QUxDoubleSpiner::setDisplaySceneUnit(bool on)
 {
-    if (on == d->displaySceneUnit)
-        return;
+    // No early return: switching on again also picks up a changed unit.
     d->displaySceneUnit = on;
     updateSceneUnit();
     uxSceneUnitSuffix::track(QUxDoubleSpinerPrivate::s_instancesWithSceneUnit, this, on);
@@ -284,21 +310,9 @@ void QUxDoubleSpiner::updateInstancesWithSceneUnit()
 
 double QUxDoubleSpiner::applyRelativeOperator(double value, RelativeOperator op, double operand)
 {
-    switch (op) {
-    case QUxDoubleSpiner::RelativeAdd:
-        return value + operand;
-    case QUxDoubleSpiner::RelativeSubtract:
-        return value - operand;
-    case QUxDoubleSpiner::RelativeMultiply:
-        return value * operand;
-    case QUxDoubleSpiner::RelativeDivide:
-        return operand == 0.0 ? value : value / operand;
-    case QUxDoubleSpiner::RelativeSet:
-        return operand;
-    case QUxDoubleSpiner::NoRelativeOperator:
-        break;
-    }
-    return value;
+    // 0 *= Infinity has no value; clamping NaN would jump to a range bound.
+    const double result = combined(value, op, operand);
+    return std::isnan(result) ? value : result;
 }
 
 void QUxDoubleSpiner::setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode)
@@ -322,7 +336,8 @@ bool QUxDoubleSpiner::isInputAcceptable() const { return d->inputAcceptable; }
 
 void QUxDoubleSpiner::setSingleStep(double value)
 {
-    if (value < kSmallestStep)
+    // NaN and infinite steps would turn the next drag into NaN.
+    if (!std::isfinite(value) || value < kSmallestStep)
         return;
     QDoubleSpinBox::setSingleStep(value);
     emit singleStepChanged(value);
@@ -459,8 +474,10 @@ bool QUxDoubleSpiner::eventFilter(QObject* watched, QEvent* event)
         switch (mouse->button()) {
         case Qt::MiddleButton:
             d->mouseMode = MiddleButtonDrag;
-            if (!isReadOnly())
+            if (!isReadOnly()) {
                 QGuiApplication::setOverrideCursor(QCursor(Qt::SizeHorCursor));
+                d->dragCursorShown = true;
+            }
             return true;
         case Qt::RightButton:
             d->mouseMode = RightButtonDown;
@@ -490,6 +507,7 @@ bool QUxDoubleSpiner::eventFilter(QObject* watched, QEvent* event)
         d->lastMouseX = static_cast<QMouseEvent*>(event)->x();
         d->pressed = false;
         d->mouseMode = ButtonsReleased;
+        d->dragCursorShown = false;
         if (!isReadOnly())
             QGuiApplication::restoreOverrideCursor();
         emit mouseButtonReleased();

@@ -90,12 +90,13 @@ public:
     static void updateInstancesWithSceneUnit();
 
     /// @p value changed by a relative entry: "+=", "-=", "*=", "/=" (division
-    /// by zero leaves it) or a plain value. What a host applies to each object
-    /// of a multi-selection when it receives relativeOperatorApplied().
+    /// by zero, or a result that is no number, leaves it) or a plain value. What
+    /// a host applies to each object of a multi-selection when it receives
+    /// relativeOperatorApplied().
     static double applyRelativeOperator(double value, RelativeOperator op, double operand);
 
 public slots:
-    /// Steps below 1e-8 are ignored.
+    /// Steps below 1e-8, NaN and infinity are ignored.
     void setSingleStep(double value);
     /// Closes the step-size menu.
     void stepEditingFinished();

@@ -75,8 +75,7 @@ bool QUxSpiner::displaySceneUnit() const { return d->displaySceneUnit; }
 
 void QUxSpiner::setDisplaySceneUnit(bool on)
 {
-    if (on == d->displaySceneUnit)
-        return;
+    // No early return: switching on again also picks up a changed unit.
     d->displaySceneUnit = on;
     updateSceneUnit();
     uxSceneUnitSuffix::track(QUxSpinerPrivate::s_instancesWithSceneUnit, this, on);
@@ -129,12 +128,13 @@ bool QUxSpiner::eventFilter(QObject* watched, QEvent* event)
         if (!d->pressed)
             return false;
         const int x = static_cast<QMouseEvent*>(event)->x();
-        const int delta = (x - d->lastMouseX) * singleStep();
+        // 64 bits: a drag near the ends of the int range must clamp, not wrap.
+        const qint64 delta = qint64(x - d->lastMouseX) * singleStep();
         d->lastMouseX = x;
         if (delta != 0 && d->mouseMode == MiddleButtonDrag && !isReadOnly()) {
             // While the box shows its step, dragging edits the step and tells nobody.
             const uxSignalBlocker blocker(d->stepEditing ? this : nullptr);
-            setValue(value() + delta);
+            setValue(int(qBound<qint64>(minimum(), value() + delta, maximum())));
         }
         return d->mouseMode != LeftButtonDown && d->mouseMode != RightButtonDown;
     }
@@ -194,6 +194,11 @@ void QUxSpiner::contextMenuEvent(QContextMenuEvent* event)
 
 void QUxSpiner::beginStepEditing()
 {
+    // Saving again would replace the box's own value and range by the step's.
+    if (d->stepEditing) {
+        selectAll();
+        return;
+    }
     const uxSignalBlocker blocker(this);
     d->savedValue = value();
     d->savedMinimum = minimum();
