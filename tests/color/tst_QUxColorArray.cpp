@@ -411,6 +411,10 @@ void tst_QUxColorArray::shouldStoreDroppedColorWithoutSignal()
     text.setText(QStringLiteral("orange"));
     QVERIFY(!drop(cell, &text));
     QVERIFY(array.isFreeCell(5));
+    QMimeData garbled; // colour format, but no colour in it
+    garbled.setData(QStringLiteral("application/x-color"), "not a colour");
+    QVERIFY(!drop(cell, &garbled));
+    QVERIFY(array.isFreeCell(5));
 
     // (255, 128, 0): hue = 60 * (128/255) = 30.1176, saturation 1, value 1.
     const auto mime = colorMime(QColor(255, 128, 0));

@@ -108,7 +108,13 @@ void QUxColorCell::dropEvent(QDropEvent* event)
         event->ignore();
         return;
     }
+    // Colour data that does not parse gives an invalid QColor, which would
+    // otherwise fill the swatch with black.
     const QColor rgb = qvariant_cast<QColor>(event->mimeData()->colorData());
+    if (!rgb.isValid()) {
+        event->ignore();
+        return;
+    }
     QUxColorArray::s_cellData[d->index].setColor(colorFromRgb(rgb));
     event->acceptProposedAction();
     d->array->setCurrent(d->index);

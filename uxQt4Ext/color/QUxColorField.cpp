@@ -9,10 +9,7 @@
 #include <QToolTip>
 #include <QtMath>
 
-#include <array>
 #include <cmath>
-#include <cstring>
-#include <limits>
 #include <vector>
 
 namespace {
@@ -45,97 +42,29 @@ float labAxisAt(float fraction) { return (fraction - 0.5f) * kLabAxisSpan; }
 float lstarAt(float fraction) { return fraction * kLstarAxisEnd; }
 
 // ---------------------------------------------------------------------------
-// 8-bit display encoding without a power function per pixel.
+// 8-bit pixel levels.
 
 /**
- * Maps a linear channel to exactly the 8-bit level QUxColor gives it when
- * painting (getGammaQColor, or getQColor without gamma). The level boundaries
- * are found once by bisection over the float range, so a lookup plus at most
- * a step or two of correction replaces pow() and stays bit-identical.
+ * Maps a linear channel to the 8-bit level QUxColor::getQColor gives it: the
+ * plane shows the picked linear RGB as it is, with no display encoding, so
+ * that its pixels do not change with the class-wide gamma switch.
  */
-class ChannelEncoder
+struct ChannelEncoder
 {
-public:
-    explicit ChannelEncoder(bool gamma) : m_gamma(gamma)
-    {
-        m_threshold[0] = 0.0f;
-        for (int k = 1; k <= 255; ++k)
-            m_threshold[k] = smallestInputReaching(k);
-        m_threshold[256] = std::numeric_limits<float>::infinity();
-        int k = 0;
-        for (int i = 0; i < kCoarseSteps; ++i) {
-            const float x = float(i) / float(kCoarseSteps);
-            while (x >= m_threshold[k + 1])
-                ++k;
-            m_coarse[i] = uchar(k);
-        }
-    }
-
     uint operator()(float x) const
     {
         if (!(x > 0.0f)) // negatives are clamped to black; so is NaN
             return 0;
-        if (x >= m_threshold[255])
+        if (x >= 1.0f)
             return 255;
-        int k = m_coarse[qMin(int(x * float(kCoarseSteps)), kCoarseSteps - 1)];
-        while (x >= m_threshold[k + 1])
-            ++k;
-        while (x < m_threshold[k])
-            --k;
-        return uint(k);
+        return uint(x * 255.0f);
     }
-
-private:
-    static constexpr int kCoarseSteps = 4096;
-
-    int level(float x) const
-    {
-        if (!m_gamma)
-            return QUxColor::getClamped8Bit(x);
-        float r, g, b;
-        QUxColor::RGBtoSRGB(x, x, x, r, g, b);
-        return QUxColor::getClamped8Bit(r);
-    }
-
-    static float fromBits(quint32 bits)
-    {
-        float x;
-        std::memcpy(&x, &bits, sizeof x);
-        return x;
-    }
-
-    static quint32 toBits(float x)
-    {
-        quint32 bits;
-        std::memcpy(&bits, &x, sizeof bits);
-        return bits;
-    }
-
-    /// Positive floats order like their bit patterns, so bisect those.
-    float smallestInputReaching(int k) const
-    {
-        quint32 below = toBits(0.0f);
-        quint32 reaching = toBits(2.0f);
-        while (reaching - below > 1) {
-            const quint32 mid = below + (reaching - below) / 2;
-            if (level(fromBits(mid)) >= k)
-                reaching = mid;
-            else
-                below = mid;
-        }
-        return fromBits(reaching);
-    }
-
-    bool m_gamma;
-    std::array<float, 257> m_threshold;
-    std::array<uchar, kCoarseSteps> m_coarse;
 };
 
 const ChannelEncoder& displayEncoder()
 {
-    static const ChannelEncoder gammaEncoder(true);
-    static const ChannelEncoder linearEncoder(false);
-    return QUxColor::s_useGamma ? gammaEncoder : linearEncoder;
+    static const ChannelEncoder encoder{};
+    return encoder;
 }
 
 inline QRgb opaque(uint r, uint g, uint b) { return 0xff000000u | (r << 16) | (g << 8) | b; }
@@ -381,13 +310,12 @@ struct PlaneKey
     qreal devicePixelRatio = 0.0;
     int mode = -1;
     float constant = 0.0f;
-    bool useGamma = true;
     float whiteX = 0.0f, whiteY = 0.0f, whiteZ = 0.0f;
 
     bool operator==(const PlaneKey& o) const
     {
         return size == o.size && devicePixelRatio == o.devicePixelRatio && mode == o.mode && constant == o.constant
-               && useGamma == o.useGamma && whiteX == o.whiteX && whiteY == o.whiteY && whiteZ == o.whiteZ;
+               && whiteX == o.whiteX && whiteY == o.whiteY && whiteZ == o.whiteZ;
     }
     bool operator!=(const PlaneKey& o) const { return !(*this == o); }
 };
@@ -597,7 +525,6 @@ PlaneKey QUxColorFieldPrivate::currentKey() const
     key.devicePixelRatio = q->devicePixelRatioF();
     key.mode = mode;
     key.constant = constant;
-    key.useGamma = QUxColor::s_useGamma;
     key.whiteX = QUxColor::s_reference_white_X;
     key.whiteY = QUxColor::s_reference_white_Y;
     key.whiteZ = QUxColor::s_reference_white_Z;
@@ -972,9 +899,14 @@ void QUxColorField::setMode(QUxColorField::Mode mode)
 
 void QUxColorField::setConstantChannel(float value)
 {
+    // NaN is replaced before the comparison: an undefined colour keeps
+    // reporting a NaN channel, and comparing that NaN would re-enter the
+    // channel setter without end.
+    if (std::isnan(value))
+        value = 0.0f;
     if (qAbs(value - d->constant) <= kConstantTolerance)
         return;
-    d->constant = std::isnan(value) ? 0.0f : value;
+    d->constant = value;
     d->setChannel(d->mode, d->constant);
     d->requestRepaint();
 }

@@ -24,9 +24,11 @@ class QUxColorFieldPrivate;
  * field->setHSV(200.0f, 0.6f, 0.9f);
  * connect(field, &QUxColorField::colorChanged, swatch, &MySwatch::showColor);
  * @endcode
+ * Pixels show the linear RGB of the picked colour in 8 bits, as
+ * QUxColor::getQColor() gives it, whatever QUxColor::s_useGamma says.
  * The plane is computed once at the screen's device pixel ratio and reused
- * until size, mode, constant channel, pixel ratio or the colour class-wide
- * settings (gamma, reference white) change; moving the marker costs a blit.
+ * until size, mode, constant channel, pixel ratio or the reference white
+ * change; moving the marker costs a blit.
  */
 class UXQT4EXT_EXPORT QUxColorField : public QWidget
 {

@@ -56,7 +56,11 @@ public:
     int value() const;
     int minimum() const;
     int maximum() const;
-    /// Sets the spin box's value; emits valueChanged() twice when it changes.
+    /**
+     * Sets the spin box's value, which clamps it to its range; unless the spin
+     * box already shows @p value, then emits valueChanged(@p value) itself,
+     * after the spin box's own report of a change.
+     */
     void setValue(int value);
     /// Lower limit of the spin box only.
     void setMinimum(int minimum);
