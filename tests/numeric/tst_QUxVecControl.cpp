@@ -70,6 +70,7 @@ private slots:
     void shouldEmitOnlyTheSetComponent();
     void shouldRelayTypedComponentValue();
     void shouldShareStepChangedInOneComponent();
+    void shouldSetStepSilentlyOnEveryComponentAndReportOnce();
     void shouldPassRangeDecimalsAndSuffixSilently();
     void shouldKeepLabelsHiddenUntilSetLabel();
     void shouldShowLabelSet_data();
@@ -80,6 +81,10 @@ private slots:
     void shouldForwardRelativeEntryWithAxis();
     void shouldHighlightOnlyValidAxis();
     void shouldProxyFocusToLastComponent();
+    void shouldDeclareMembersHostsConnectByText_data();
+    void shouldDeclareMembersHostsConnectByText();
+    void shouldRelayRelativeEntryToTextConnection();
+    void shouldStayQuietWhileBeingDestroyed();
 
     void shouldSetBothComponentsOfVec2();
     void shouldHandleFourthComponentOfVec4();
@@ -150,6 +155,19 @@ void tst_QUxVecControl::shouldShareStepChangedInOneComponent()
     QCOMPARE(control.singleStepY(), 0.25);
     QCOMPARE(control.singleStepZ(), 0.25);
     QCOMPARE(control.singleStep(), 0.25);
+}
+
+void tst_QUxVecControl::shouldSetStepSilentlyOnEveryComponentAndReportOnce()
+{
+    QUxVec3Control control;
+    QSignalSpy steps(&control, &QUxVec3Control::singleStepChanged);
+    QSignalSpy componentSteps(control.wheelPrec(2), &QUxWheelPrec::singleStepChanged);
+    control.setSingleStep(0.5);
+    QCOMPARE(steps.count(), 1);
+    QCOMPARE(steps.at(0).at(0).toDouble(), 0.5);
+    QCOMPARE(componentSteps.count(), 0);
+    QCOMPARE(control.singleStepX(), 0.5);
+    QCOMPARE(control.singleStepZ(), 0.5);
 }
 
 void tst_QUxVecControl::shouldPassRangeDecimalsAndSuffixSilently()
@@ -228,6 +246,11 @@ void tst_QUxVecControl::shouldShowLabelSet()
     control.setLabel(QUxVec3Control::VectorLabel(7));
     QCOMPARE(int(control.getLabel()), 7);
     QCOMPARE(labels.first()->isVisible(), shown);
+    control.setLabel(QUxVec3Control::VectorLabel(-1));
+    QCOMPARE(int(control.getLabel()), -1);
+    for (QLabel* l : labels)
+        QCOMPARE(l->isVisible(), shown);
+    QCOMPARE(labels.first()->text().isEmpty(), !shown);
 }
 
 void tst_QUxVecControl::shouldLayOutPerOrientation_data()
@@ -329,6 +352,84 @@ void tst_QUxVecControl::shouldProxyFocusToLastComponent()
     QCOMPARE(control.focusProxy(), static_cast<QWidget*>(control.wheelPrec(2)));
     QCOMPARE(control.focusPolicy(), Qt::StrongFocus);
     QCOMPARE(control.wheelPrec(0)->focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_QUxVecControl::shouldDeclareMembersHostsConnectByText_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("access"); // -1: must not exist
+    const int signal = QMetaMethod::Signal, slot = QMetaMethod::Slot;
+    const int isPublic = QMetaMethod::Public, isPrivate = QMetaMethod::Private;
+    QTest::newRow("3: relative signal") << "3" << QByteArray("relativeOperatorApplied(int,RelativeOperator,double)")
+                                        << signal << isPublic;
+    QTest::newRow("3: changedZ") << "3" << QByteArray("changedZ(double)") << signal << isPublic;
+    QTest::newRow("3: setLabel") << "3" << QByteArray("setLabel(VectorLabel)") << slot << isPublic;
+    QTest::newRow("3: setOrientation") << "3" << QByteArray("setOrientation(Orientation)") << slot << isPublic;
+    QTest::newRow("3: setXYZ") << "3" << QByteArray("setXYZ(double,double,double)") << slot << isPublic;
+    QTest::newRow("3: setZVisible") << "3" << QByteArray("setZVisible(bool)") << slot << isPublic;
+    QTest::newRow("3: relative to Z") << "3" << QByteArray("appliedRelativeOperatorToZ(RelativeOperator,double)")
+                                      << slot << isPrivate;
+    QTest::newRow("3: finishedEditing") << "3" << QByteArray("finishedEditing()") << slot << isPrivate;
+    QTest::newRow("2: relay Y") << "2" << QByteArray("passSignalSetY(double)") << slot << isPrivate;
+    QTest::newRow("2: relative to Y") << "2" << QByteArray("appliedRelativeOperatorToY(RelativeOperator,double)")
+                                      << slot << isPrivate;
+    QTest::newRow("2: no visibility") << "2" << QByteArray("setXVisible(bool)") << slot << -1;
+    QTest::newRow("4: relative to W") << "4" << QByteArray("appliedRelativeOperatorToW(RelativeOperator,double)")
+                                      << slot << isPrivate;
+    QTest::newRow("4: changedW") << "4" << QByteArray("changedW(double)") << signal << isPublic;
+    QTest::newRow("4: no labels") << "4" << QByteArray("setLabel(VectorLabel)") << slot << -1;
+}
+
+void tst_QUxVecControl::shouldDeclareMembersHostsConnectByText()
+{
+    QFETCH(QString, control);
+    QFETCH(QByteArray, member);
+    QFETCH(int, type);
+    QFETCH(int, access);
+    const QMetaObject* meta = control == "2"   ? &QUxVec2Control::staticMetaObject
+                              : control == "3" ? &QUxVec3Control::staticMetaObject
+                                               : &QUxVec4Control::staticMetaObject;
+    const int index = meta->indexOfMethod(member.constData());
+    if (access < 0) {
+        QCOMPARE(index, -1);
+        return;
+    }
+    QVERIFY2(index >= 0, member.constData());
+    QCOMPARE(int(meta->method(index).methodType()), type);
+    QCOMPARE(int(meta->method(index).access()), access);
+}
+
+void tst_QUxVecControl::shouldRelayRelativeEntryToTextConnection()
+{
+    QUxVec3Control control;
+    control.show();
+    control.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
+    QSignalSpy relative(&control, SIGNAL(relativeOperatorApplied(int, RelativeOperator, double)));
+    QVERIFY(relative.isValid());
+    typeInto(control.wheelPrec(1), QStringLiteral("-=4"));
+    QCOMPARE(relative.count(), 1);
+    QCOMPARE(relative.at(0).at(0).toInt(), 1);
+    QCOMPARE(relative.at(0).at(1).value<QUxDoubleSpiner::RelativeOperator>(), QUxDoubleSpiner::RelativeSubtract);
+    QCOMPARE(relative.at(0).at(2).toDouble(), 4.0);
+}
+
+void tst_QUxVecControl::shouldStayQuietWhileBeingDestroyed()
+{
+    QObject host;
+    auto* control = new QUxVec3Control;
+    control->show();
+    QVERIFY(QTest::qWaitForWindowActive(control));
+    auto* edit = control->wheelPrec(0)->spiner()->findChild<QLineEdit*>();
+    edit->setFocus();
+    QTest::keyClicks(edit, QStringLiteral("5")); // typed, not committed: closing commits it
+    QVERIFY(edit->hasFocus());
+    int reports = 0;
+    connect(control, &QUxVec3Control::changedX, &host, [&] { reports += 1 + int(control->getX()); });
+    connect(control, &QUxVec3Control::editingFinished, &host, [&] { ++reports; });
+    delete control;
+    QCOMPARE(reports, 0);
 }
 
 void tst_QUxVecControl::shouldSetBothComponentsOfVec2()

@@ -12,9 +12,44 @@
 #include <QLineEdit>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(QUxIntVector2D)
-Q_DECLARE_METATYPE(QUxIntVector3D)
-Q_DECLARE_METATYPE(QUxIntVector4D)
+namespace {
+// The building steps are protected members that a subclass may call again or reuse.
+struct SliderSteps : QUxIntVector3DSlider
+{
+    using QUxIntVectorSliderBase::createLabels;
+    using QUxIntVectorSliderBase::createLayout;
+    using QUxIntVectorSliderBase::createSliderConnections;
+    using QUxIntVectorSliderBase::createSliders;
+    using QUxIntVectorSliderBase::init;
+};
+struct SpinerSteps : QUxIntVector3DSpiner
+{
+    using QUxIntVectorSpinerBase::createSpinerConnections;
+    using QUxIntVectorSpinerBase::createSpiners;
+    using QUxIntVectorSpinerBase::init;
+};
+struct SliderVectorSteps : QUxVec3SliderControl
+{
+    using QUxSliderVectorControl::createConnections;
+    using QUxSliderVectorControl::createLabel;
+    using QUxSliderVectorControl::createLayout;
+    using QUxSliderVectorControl::createSlider;
+    using QUxSliderVectorControl::init;
+};
+
+/// Focuses the field inside @p component and types @p text without committing it.
+QLineEdit* typeWithoutCommit(QWidget* window, QWidget* component, const QString& text)
+{
+    window->show();
+    if (!QTest::qWaitForWindowActive(window))
+        return nullptr;
+    auto* edit = component->findChild<QLineEdit*>();
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+    return edit->hasFocus() ? edit : nullptr;
+}
+} // namespace
 
 // The slider and integer members of the vector family: one changed(vector)
 // signal that always carries every component.
@@ -36,15 +71,11 @@ private slots:
     void shouldReportIntegerSliderEditWithWholeVector();
     void shouldReportTypedIntegerComponentWithWholeVector();
     void shouldPassIntegerRangesAndStepsToEveryComponent();
+    void shouldDeliverIntegerVectorThroughQueuedConnection();
+    void shouldStayQuietWhileBeingDestroyed();
 };
 
-void tst_QUxVectorSliders::initTestCase()
-{
-    QLocale::setDefault(QLocale::c());
-    qRegisterMetaType<QUxIntVector2D>();
-    qRegisterMetaType<QUxIntVector3D>();
-    qRegisterMetaType<QUxIntVector4D>();
-}
+void tst_QUxVectorSliders::initTestCase() { QLocale::setDefault(QLocale::c()); }
 
 void tst_QUxVectorSliders::shouldReportWholeVectorOnceForSetValue()
 {
@@ -202,6 +233,36 @@ void tst_QUxVectorSliders::shouldPassIntegerRangesAndStepsToEveryComponent()
     QCOMPARE(spiners.spiner(1)->minimum(), -6);
     QCOMPARE(spiners.spiner(2)->singleStep(), 4);
     Q_UNUSED(changed);
+}
+
+void tst_QUxVectorSliders::shouldDeliverIntegerVectorThroughQueuedConnection()
+{
+    QUxIntVector3DSlider control;
+    QUxIntVector3D received;
+    QObject receiver;
+    connect(
+        &control, &QUxIntVector3DSlider::changed, &receiver, [&received](const QUxIntVector3D& v) { received = v; },
+        Qt::QueuedConnection);
+    control.setMaximum(QUxIntVector3D(10, 10, 10));
+    control.setValue(QUxIntVector3D(1, 2, 3));
+    QTRY_COMPARE(received, QUxIntVector3D(1, 2, 3));
+    for (const char* name : {"QUxIntVector2D", "QUxIntVector3D", "QUxIntVector4D"})
+        QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
+}
+
+void tst_QUxVectorSliders::shouldStayQuietWhileBeingDestroyed()
+{
+    QObject host;
+    int reports = 0;
+    auto* sliders = new QUxVec3SliderControl;
+    QVERIFY(typeWithoutCommit(sliders, sliders->slider(0), QStringLiteral("0.5")));
+    connect(sliders, &QUxVec3SliderControl::changed, &host, [&] { reports += 1 + int(sliders->value().x()); });
+    delete sliders; // closing commits the typed text
+    auto* spiners = new QUxIntVector2DSpiner;
+    QVERIFY(typeWithoutCommit(spiners, spiners->spiner(1), QStringLiteral("7")));
+    connect(spiners, &QUxIntVector2DSpiner::changed, &host, [&] { reports += 1 + spiners->value().getY(); });
+    delete spiners;
+    QCOMPARE(reports, 0);
 }
 
 QTEST_MAIN(tst_QUxVectorSliders)

@@ -42,6 +42,16 @@ private slots:
     void shouldStartWithDocumentedClassWideSettings();
 };
 
+// Hosts call these through pointers and overloads: the QColor getters are
+// non-const, the clamping helpers take floats by const reference.
+static_assert(std::is_same_v<decltype(&QUxColor::getQColor), QColor (QUxColor::*)()>);
+static_assert(std::is_same_v<decltype(&QUxColor::getClampedQColor), QColor (QUxColor::*)()>);
+static_assert(std::is_same_v<decltype(&QUxColor::getGammaQColor), QColor (QUxColor::*)()>);
+static_assert(std::is_same_v<decltype(&QUxColor::getGammaColor), QUxColor (QUxColor::*)() const>);
+static_assert(std::is_same_v<decltype(&QUxColor::getClamped8Bit), int (*)(const float&)>);
+static_assert(std::is_same_v<decltype(&QUxColor::getClamped), float (*)(const float&)>);
+static_assert(std::is_same_v<decltype(&QUxColor::clampRGB8Bit), void (*)(int&, int&, int&)>);
+
 namespace {
 constexpr float kTight = 1e-5f;
 
@@ -358,6 +368,7 @@ void tst_QUxColor::shouldClampFloatAndIntegerTriples()
     QCOMPARE(QUxColor::getClamped(-2.f), 0.f);
     QCOMPARE(QUxColor::getClamped(0.25f), 0.25f);
     QCOMPARE(QUxColor::getClamped(7.f), 1.f);
+    QCOMPARE(QUxColor::getClamped(std::nanf("")), 0.f);
     int r = -5, g = 256, b = 255;
     QUxColor::clampRGB8Bit(r, g, b);
     QCOMPARE(r, 0);
@@ -380,6 +391,13 @@ void tst_QUxColor::shouldClampOnlyInQColorGetters()
     QCOMPARE(clamped.redF(), 1.0);
     QVERIFY(qAbs(clamped.greenF() - 0.5) < 1e-4);
     QCOMPARE(clamped.alpha(), 255);
+
+    // An undefined value must not reach QColor's float setter.
+    QUxColor undefined;
+    undefined.setHSV(0.f, 0.f, std::nanf(""));
+    QCOMPARE(undefined.getClampedQColor(), QColor(0, 0, 0));
+    QCOMPARE(undefined.getQColor(), QColor(0, 0, 0));
+    QCOMPARE(undefined.getGammaQColor(), QColor(0, 0, 0));
 }
 
 void tst_QUxColor::shouldBuildFromIntegersAndQColor()
@@ -396,6 +414,8 @@ void tst_QUxColor::shouldBuildFromIntegersAndQColor()
     copy.setColor(fromInts);
     QCOMPARE(copy, fromInts);
     QCOMPARE(QUxColor(QColor(12, 200, 99)).getQColor(), QColor(12, 200, 99));
+    // Integers are scaled, not clamped: 510 is linear 2.0.
+    QVERIFY(near(QUxColor(510, 0, 0).getValue(), 2.f, kTight));
 }
 
 void tst_QUxColor::shouldReplaceSingleRgbChannel()

@@ -27,6 +27,7 @@ private slots:
     void shouldPrependTransferredEntriesOnAssignment();
     void shouldPrependTransferredEntriesOnMove();
     void shouldSuppressSignalsOfBlockedObject();
+    void shouldForgetObjectDestroyedWhileBlocked();
 };
 
 void tst_uxSignalBlocker::shouldBlockWhileAliveAndRestoreAfter_data()
@@ -199,6 +200,20 @@ void tst_uxSignalBlocker::shouldSuppressSignalsOfBlockedObject()
     QCOMPARE(spy.count(), 0);
     o.setObjectName(QStringLiteral("loud"));
     QCOMPARE(spy.count(), 1);
+}
+
+void tst_uxSignalBlocker::shouldForgetObjectDestroyedWhileBlocked()
+{
+    QObject survivor;
+    auto* doomed = new QObject;
+    {
+        uxSignalBlocker blocker{doomed, &survivor};
+        delete doomed;
+        QVERIFY(!blocker.isAssigned(doomed));
+        QVERIFY(!blocker.unblock(doomed)); // must not touch the dead object
+        QVERIFY(survivor.signalsBlocked());
+    }
+    QVERIFY(!survivor.signalsBlocked());
 }
 
 QTEST_GUILESS_MAIN(tst_uxSignalBlocker)

@@ -49,6 +49,7 @@ private slots:
 
     void shouldApplyFontFamilyAndSizeButKeepOtherAttributes_data();
     void shouldApplyFontFamilyAndSizeButKeepOtherAttributes();
+    void shouldLeaveTargetFontAloneWhenFamilyAndSizesMatch();
     void shouldSetControlPropertyOnlyOnChange();
     void shouldClearMultiSelectInsteadOfStoringFalse();
     void shouldIgnoreNullWidgets();
@@ -183,6 +184,17 @@ void tst_uxUIUtils::shouldApplyFontFamilyAndSizeButKeepOtherAttributes()
     QVERIFY(target.font().italic());
 }
 
+void tst_uxUIUtils::shouldLeaveTargetFontAloneWhenFamilyAndSizesMatch()
+{
+    QLabel source, target;
+    QFont bold = target.font();
+    bold.setBold(true);
+    source.setFont(bold); // same family and size, other weight
+    uxUIStyle::applyFont(&source, &target);
+    QVERIFY(!target.testAttribute(Qt::WA_SetFont));
+    QVERIFY(!target.font().bold());
+}
+
 void tst_uxUIUtils::shouldSetControlPropertyOnlyOnChange()
 {
     CountingStyle style;
@@ -234,6 +246,7 @@ void tst_uxUIUtils::shouldIgnoreNullWidgets()
     uxUIStyle::applyFont(&label, nullptr);
     uxUIStyle::applyFont(nullptr, &label);
     uxUIStyle::setControlProperty(nullptr, "multiselect", true);
+    uxUIStyle::setControlProperty(&label, nullptr, true);
     uxUIStyle::setMultiSelectHighlight(nullptr, true);
     QVERIFY(!label.property("multiselect").isValid());
 }

@@ -1,5 +1,9 @@
 #include "QUxIntVectorControl.h"
 
+#include "QUxIntVector2D.h"
+#include "QUxIntVector3D.h"
+#include "QUxIntVector4D.h"
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 #include "uxVectorRows_p.h"
 
@@ -25,25 +29,27 @@ public:
 QUxIntVectorControl::QUxIntVectorControl(int components, QWidget* parent)
     : QWidget(parent), d(std::make_unique<QUxIntVectorControlPrivate>(components))
 {
+    // The change signals carry these by value, also through queued and by-name connections.
+    qRegisterMetaType<QUxIntVector2D>();
+    qRegisterMetaType<QUxIntVector3D>();
+    qRegisterMetaType<QUxIntVector4D>();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QUxIntVectorControl::~QUxIntVectorControl() = default;
-
-void QUxIntVectorControl::init()
+QUxIntVectorControl::~QUxIntVectorControl()
 {
-    createEditors();
-    createLabels();
-    createLayout();
-    createEditorConnections();
-    for (int axis = 0; axis < componentCount(); ++axis)
-        d->lastReported.push_back(componentValue(axis));
+    // Hiding this widget moves the focus out of a component, which may commit
+    // its text after the subclass is gone.
+    uxDisconnectChildSignals(this);
 }
 
-void QUxIntVectorControl::createEditors()
+void QUxIntVectorControl::createEditors(const std::function<QWidget*()>& make)
 {
-    for (int axis = 0; axis < d->count; ++axis)
-        d->editors.push_back(createEditor());
+    for (int axis = 0; axis < d->count; ++axis) {
+        QWidget* editor = make();
+        d->editors.push_back(editor);
+        d->lastReported.push_back(editorValue(editor));
+    }
 }
 
 void QUxIntVectorControl::createLabels()
@@ -56,12 +62,6 @@ void QUxIntVectorControl::createLayout()
 {
     d->layout = new QGridLayout(this);
     uxVectorRows::place(d->layout, d->labels, d->editors, uxVectorRows::Arrangement::Column, false);
-}
-
-void QUxIntVectorControl::createEditorConnections()
-{
-    for (QWidget* editor : d->editors)
-        connectEditor(editor);
 }
 
 int QUxIntVectorControl::componentCount() const { return static_cast<int>(d->editors.size()); }

@@ -34,11 +34,13 @@ public:
 protected:
     QUxIntVectorControl(int components, QWidget* parent);
 
-    /// Builds the control: editors, labels, layout and connections. Called by
-    /// the subclass constructor, since the editors are the subclass's choice.
-    void init();
-    virtual QWidget* createEditor() = 0;
-    virtual void connectEditor(QWidget* editor) = 0;
+    // Building steps shared by the slider and the spin box members, whose
+    // init() runs them around their own editor steps.
+    /// Adds one editor per component, each made by @p make.
+    void createEditors(const std::function<QWidget*()>& make);
+    void createLabels();
+    void createLayout();
+
     virtual int editorValue(const QWidget* editor) const = 0;
     virtual void setEditorValue(QWidget* editor, int value) = 0;
     virtual void setEditorMinimum(QWidget* editor, int value) = 0;
@@ -46,11 +48,6 @@ protected:
     virtual void setEditorStep(QWidget* editor, int value) = 0;
     /// Emits the typed change signal with the whole vector.
     virtual void emitChanged() = 0;
-
-    void createEditors();
-    void createLabels();
-    void createLayout();
-    void createEditorConnections();
 
     int componentValue(int axis) const;
     void setComponentValues(const int* values);

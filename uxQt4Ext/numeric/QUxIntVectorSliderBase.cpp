@@ -22,11 +22,23 @@ void QUxIntVectorSliderBase::setTracking(bool enable)
     changeEach([enable](QWidget* e, int) { asSlider(e)->setTracking(enable); });
 }
 
-QWidget* QUxIntVectorSliderBase::createEditor() { return new QUxIntegerSlider(this); }
-
-void QUxIntVectorSliderBase::connectEditor(QWidget* editor)
+void QUxIntVectorSliderBase::init()
 {
-    connect(asSlider(editor), &QUxIntegerSlider::valueChanged, this, &QUxIntVectorSliderBase::componentEdited);
+    createSliders();
+    createLabels();
+    createLayout();
+    createSliderConnections();
+}
+
+void QUxIntVectorSliderBase::createSliders()
+{
+    createEditors([this] { return new QUxIntegerSlider(this); });
+}
+
+void QUxIntVectorSliderBase::createSliderConnections()
+{
+    for (int axis = 0; axis < componentCount(); ++axis)
+        connect(slider(axis), &QUxIntegerSlider::valueChanged, this, &QUxIntVectorSliderBase::componentEdited);
 }
 
 int QUxIntVectorSliderBase::editorValue(const QWidget* editor) const { return asSlider(editor)->value(); }

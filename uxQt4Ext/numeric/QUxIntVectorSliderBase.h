@@ -17,8 +17,11 @@ public:
 protected:
     QUxIntVectorSliderBase(int components, QWidget* parent);
 
-    QWidget* createEditor() override;
-    void connectEditor(QWidget* editor) override;
+    /// Builds the control: sliders, labels, layout and connections.
+    void init();
+    void createSliders();
+    void createSliderConnections();
+
     int editorValue(const QWidget* editor) const override;
     void setEditorValue(QWidget* editor, int value) override;
     void setEditorMinimum(QWidget* editor, int value) override;

@@ -17,11 +17,23 @@ QUxIntVectorSpinerBase::~QUxIntVectorSpinerBase() = default;
 
 QUxSpiner* QUxIntVectorSpinerBase::spiner(int axis) const { return asSpiner(editor(axis)); }
 
-QWidget* QUxIntVectorSpinerBase::createEditor() { return new QUxSpiner(this); }
-
-void QUxIntVectorSpinerBase::connectEditor(QWidget* editor)
+void QUxIntVectorSpinerBase::init()
 {
-    connect(asSpiner(editor), qOverload<int>(&QUxSpiner::valueChanged), this, &QUxIntVectorSpinerBase::componentEdited);
+    createSpiners();
+    createLabels();
+    createLayout();
+    createSpinerConnections();
+}
+
+void QUxIntVectorSpinerBase::createSpiners()
+{
+    createEditors([this] { return new QUxSpiner(this); });
+}
+
+void QUxIntVectorSpinerBase::createSpinerConnections()
+{
+    for (int axis = 0; axis < componentCount(); ++axis)
+        connect(spiner(axis), qOverload<int>(&QUxSpiner::valueChanged), this, &QUxIntVectorSpinerBase::componentEdited);
 }
 
 int QUxIntVectorSpinerBase::editorValue(const QWidget* editor) const { return asSpiner(editor)->value(); }

@@ -16,8 +16,11 @@ public:
 protected:
     QUxIntVectorSpinerBase(int components, QWidget* parent);
 
-    QWidget* createEditor() override;
-    void connectEditor(QWidget* editor) override;
+    /// Builds the control: spin boxes, labels, layout and connections.
+    void init();
+    void createSpiners();
+    void createSpinerConnections();
+
     int editorValue(const QWidget* editor) const override;
     void setEditorValue(QWidget* editor, int value) override;
     void setEditorMinimum(QWidget* editor, int value) override;

@@ -1,5 +1,6 @@
 #include "QUxSliderVectorControl.h"
 
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 #include "uxVectorRows_p.h"
 
@@ -27,7 +28,12 @@ QUxSliderVectorControl::QUxSliderVectorControl(int components, QWidget* parent)
     init();
 }
 
-QUxSliderVectorControl::~QUxSliderVectorControl() = default;
+QUxSliderVectorControl::~QUxSliderVectorControl()
+{
+    // Hiding this widget moves the focus out of a component, which may commit
+    // its text after the subclass is gone.
+    uxDisconnectChildSignals(this);
+}
 
 void QUxSliderVectorControl::init()
 {

@@ -36,12 +36,9 @@ signals:
     void changedX(double value);
     void changedY(double value);
 
-protected:
-    void emitChanged(int axis, double value) override;
-
 private slots:
-    void passSignalSetX(double value);
-    void passSignalSetY(double value);
-    void appliedRelativeOperatorToX(QUxDoubleSpiner::RelativeOperator op, double value);
-    void appliedRelativeOperatorToY(QUxDoubleSpiner::RelativeOperator op, double value);
+    void passSignalSetX(double value) { emit changedX(value); }
+    void passSignalSetY(double value) { emit changedY(value); }
+    void appliedRelativeOperatorToX(RelativeOperator op, double value) { forwardRelativeOperator(0, op, value); }
+    void appliedRelativeOperatorToY(RelativeOperator op, double value) { forwardRelativeOperator(1, op, value); }
 };

@@ -56,11 +56,8 @@ signals:
     void changedY(double value);
     void changedZ(double value);
 
-protected:
-    void emitChanged(int axis, double value) override;
-
 private slots:
-    void appliedRelativeOperatorToX(QUxDoubleSpiner::RelativeOperator op, double value);
-    void appliedRelativeOperatorToY(QUxDoubleSpiner::RelativeOperator op, double value);
-    void appliedRelativeOperatorToZ(QUxDoubleSpiner::RelativeOperator op, double value);
+    void appliedRelativeOperatorToX(RelativeOperator op, double value) { forwardRelativeOperator(0, op, value); }
+    void appliedRelativeOperatorToY(RelativeOperator op, double value) { forwardRelativeOperator(1, op, value); }
+    void appliedRelativeOperatorToZ(RelativeOperator op, double value) { forwardRelativeOperator(2, op, value); }
 };

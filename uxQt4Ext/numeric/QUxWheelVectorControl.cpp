@@ -1,6 +1,6 @@
 #include "QUxWheelVectorControl.h"
 
-#include "QUxWheelPrec.h"
+#include "uxChildSignals_p.h"
 #include "uxSignalBlocker.h"
 #include "uxUIStyle.h"
 #include "uxVectorRows_p.h"
@@ -16,6 +16,7 @@ public:
     QUxWheelVectorControl::VectorLabel label = QUxWheelVectorControl::XYZ;
     QUxWheelVectorControl::Orientation orientation = QUxWheelVectorControl::VERTICAL;
     std::vector<QUxWheelPrec*> editors;
+    std::vector<std::function<void(double)>> reporters; // emit each component's change signal
     std::vector<QLabel*> labels;
     std::vector<bool> visible;
     QGridLayout* layout = nullptr;
@@ -24,6 +25,11 @@ public:
 
     bool validAxis(int axis) const { return axis >= 0 && axis < static_cast<int>(editors.size()); }
     QUxWheelPrec* first() const { return editors.front(); }
+    void report(int axis, double value) const
+    {
+        if (reporters[axis])
+            reporters[axis](value);
+    }
 
     std::vector<QWidget*> editorWidgets() const { return std::vector<QWidget*>(editors.begin(), editors.end()); }
 };
@@ -37,6 +43,7 @@ QUxWheelVectorControl::QUxWheelVectorControl(int components, QWidget* parent)
         auto* editor = new QUxWheelPrec(this);
         editor->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
         d->editors.push_back(editor);
+        d->reporters.emplace_back();
         d->visible.push_back(true);
     }
     d->layout = new QGridLayout(this);
@@ -57,7 +64,12 @@ QUxWheelVectorControl::QUxWheelVectorControl(int components, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
-QUxWheelVectorControl::~QUxWheelVectorControl() = default;
+QUxWheelVectorControl::~QUxWheelVectorControl()
+{
+    // Hiding this widget moves the focus out of a component, which may commit
+    // its text after this destructor has run.
+    uxDisconnectChildSignals(this);
+}
 
 int QUxWheelVectorControl::componentCount() const { return static_cast<int>(d->editors.size()); }
 
@@ -161,7 +173,7 @@ void QUxWheelVectorControl::setMaximumSpinerSize(const QSize& size)
     changeEach([&size](QUxWheelPrec* e) { e->setMaximumSpinerSize(size); }, false);
 }
 
-void QUxWheelVectorControl::setRelativeOperatorHandlingMode(QUxDoubleSpiner::RelativeOperatorHandlingMode mode)
+void QUxWheelVectorControl::setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode)
 {
     changeEach([mode](QUxWheelPrec* e) { e->setRelativeOperatorHandlingMode(mode); }, false);
 }
@@ -191,7 +203,7 @@ void QUxWheelVectorControl::setMouseReleased() { emit mouseButtonReleased(); }
 void QUxWheelVectorControl::setFocusGained() { emit focusGained(); }
 void QUxWheelVectorControl::finishedEditing() { emit editingFinished(); }
 
-void QUxWheelVectorControl::forwardRelativeOperator(int axis, QUxDoubleSpiner::RelativeOperator op, double value)
+void QUxWheelVectorControl::forwardRelativeOperator(int axis, RelativeOperator op, double value)
 {
     emit relativeOperatorApplied(axis, op, value);
 }
@@ -211,7 +223,7 @@ void QUxWheelVectorControl::setComponent(int axis, double value)
         uxSignalBlocker blocker(d->editors[axis]);
         d->editors[axis]->setValue(value);
     }
-    emitChanged(axis, value);
+    d->report(axis, value);
 }
 
 void QUxWheelVectorControl::setComponents(const double* values)
@@ -221,7 +233,13 @@ void QUxWheelVectorControl::setComponents(const double* values)
         d->editors[axis]->setValue(values[axis]);
     }
     for (int axis = 0; axis < componentCount(); ++axis)
-        emitChanged(axis, values[axis]);
+        d->report(axis, values[axis]);
+}
+
+void QUxWheelVectorControl::setChangeReporter(int axis, const std::function<void(double)>& report)
+{
+    if (d->validAxis(axis))
+        d->reporters[axis] = report;
 }
 
 QUxWheelVectorControl::VectorLabel QUxWheelVectorControl::vectorLabel() const { return d->label; }
@@ -229,7 +247,7 @@ QUxWheelVectorControl::VectorLabel QUxWheelVectorControl::vectorLabel() const { 
 void QUxWheelVectorControl::setVectorLabel(VectorLabel label)
 {
     d->label = label;
-    if (label > SHEAR)
+    if (label < NONE || label > SHEAR)
         return;
     d->labelsShown = label != NONE;
     const QStringList texts = uxVectorRows::labelTexts(label);

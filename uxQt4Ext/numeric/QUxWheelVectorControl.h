@@ -3,13 +3,14 @@
 #include "uxQt4ExtGlobal.h"
 
 #include "QUxDoubleSpiner.h"
+#include "QUxWheelPrec.h"
 
 #include <QAbstractSpinBox>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
-class QUxWheelPrec;
 class QUxWheelVectorControlPrivate;
 
 /**
@@ -46,10 +47,15 @@ class UXQT4EXT_EXPORT QUxWheelVectorControl : public QWidget
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep NOTIFY singleStepChanged)
 
 public:
-    enum VectorLabel { NONE = 0, XYZ = 1, RGB = 2, UVW = 3, SHEAR = 4 };
+    // A fixed underlying type: hosts may store values outside the named ones.
+    enum VectorLabel : int { NONE = 0, XYZ = 1, RGB = 2, UVW = 3, SHEAR = 4 };
     Q_ENUM(VectorLabel)
-    enum Orientation { HORIZONTAL = 0, VERTICAL = 1 };
+    enum Orientation : int { HORIZONTAL = 0, VERTICAL = 1 };
     Q_ENUM(Orientation)
+    // Hosts connect the relative-entry signal by its text, which names the
+    // operator type without its class.
+    using RelativeOperator = QUxDoubleSpiner::RelativeOperator;
+    using RelativeOperatorHandlingMode = QUxDoubleSpiner::RelativeOperatorHandlingMode;
 
     ~QUxWheelVectorControl() override;
 
@@ -72,7 +78,7 @@ public:
     QSize minimumSpinerSize() const;
     QSize maximumSpinerSize() const;
 
-    void setRelativeOperatorHandlingMode(QUxDoubleSpiner::RelativeOperatorHandlingMode mode);
+    void setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode);
     /// Marks one component as showing mixed values of a multi-selection.
     void setMultiSelectHighlight(int axis, bool on);
     void setControlProperty(int axis, const char* name, const QVariant& value);
@@ -102,7 +108,7 @@ public slots:
     void setMaximumSpinerSize(const QSize& size);
 
 signals:
-    void relativeOperatorApplied(int axis, QUxDoubleSpiner::RelativeOperator op, double value);
+    void relativeOperatorApplied(int axis, RelativeOperator op, double value);
     void mouseButtonPressed();
     void mouseButtonReleased();
     void editingFinished();
@@ -112,8 +118,18 @@ signals:
 protected:
     QUxWheelVectorControl(int components, QWidget* parent);
 
-    /// Emits the change signal of component @p axis.
-    virtual void emitChanged(int axis, double value) = 0;
+    /// Wires component @p axis: its value changes go to @p changed (the
+    /// control's signal, or a slot relaying to it), which also reports the
+    /// values set through setComponent(); its relative entries go to @p relative.
+    template<typename Control>
+    void connectComponent(int axis, void (Control::*changed)(double),
+                          void (Control::*relative)(RelativeOperator, double))
+    {
+        auto* control = static_cast<Control*>(this);
+        connect(wheelPrec(axis), &QUxWheelPrec::valueChanged, control, changed);
+        connect(wheelPrec(axis), &QUxWheelPrec::relativeOperatorApplied, control, relative);
+        setChangeReporter(axis, [control, changed](double value) { (control->*changed)(value); });
+    }
 
     double component(int axis) const;
     double componentSingleStep(int axis) const;
@@ -130,12 +146,13 @@ protected:
     void setMirroredLayout(bool mirrored);
 
     /// Reports a relative entry of component @p axis.
-    void forwardRelativeOperator(int axis, QUxDoubleSpiner::RelativeOperator op, double value);
+    void forwardRelativeOperator(int axis, RelativeOperator op, double value);
 
 private slots:
     void finishedEditing();
 
 private:
+    void setChangeReporter(int axis, const std::function<void(double)>& report);
     void relayout();
     void updateLabels();
     template<typename Change>

@@ -446,7 +446,7 @@ int QUxColor::getClamped8Bit(const float& x)
 
 float QUxColor::getClamped(const float& x)
 {
-    if (x < 0.0f)
+    if (!(x >= 0.0f)) // NaN included, as in getClamped8Bit: QColor must never see it
         return 0.0f;
     return std::min(x, 1.0f);
 }

@@ -112,7 +112,7 @@ public:
 
     /// 0 below 0, 255 above 1, otherwise x * 255 truncated (0.999 gives 254).
     static int getClamped8Bit(const float& x);
-    /// x limited to [0, 1].
+    /// x limited to [0, 1]; NaN gives 0.
     static float getClamped(const float& x);
     /// Each channel limited to [0, 255].
     static void clampRGB8Bit(int& r, int& g, int& b);

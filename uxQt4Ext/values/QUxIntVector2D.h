@@ -2,6 +2,8 @@
 
 #include "uxQt4ExtGlobal.h"
 
+#include <QMetaType>
+
 #include <cstddef>
 
 class QUxIntVector3D;
@@ -43,3 +45,5 @@ public:
 private:
     int m_v[2] = {0, 0};
 };
+
+Q_DECLARE_METATYPE(QUxIntVector2D)

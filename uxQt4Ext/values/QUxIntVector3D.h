@@ -2,6 +2,8 @@
 
 #include "uxQt4ExtGlobal.h"
 
+#include <QMetaType>
+
 #include <cstddef>
 
 class QUxIntVector2D;
@@ -53,3 +55,5 @@ public:
 private:
     int m_v[3] = {0, 0, 0};
 };
+
+Q_DECLARE_METATYPE(QUxIntVector3D)

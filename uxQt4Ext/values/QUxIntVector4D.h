@@ -2,6 +2,8 @@
 
 #include "uxQt4ExtGlobal.h"
 
+#include <QMetaType>
+
 #include <cstddef>
 
 /// A plain quadruple of 32-bit integers (x, y, z, w).
@@ -53,3 +55,5 @@ public:
 private:
     int m_v[4] = {0, 0, 0, 0};
 };
+
+Q_DECLARE_METATYPE(QUxIntVector4D)

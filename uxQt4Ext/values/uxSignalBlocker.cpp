@@ -22,8 +22,10 @@ uxSignalBlocker::uxSignalBlocker(uxSignalBlocker& other) : QObject(nullptr) { mo
 
 uxSignalBlocker::~uxSignalBlocker()
 {
-    for (const auto& entry : m_entries)
-        entry.first->blockSignals(entry.second);
+    for (const auto& entry : m_entries) {
+        if (entry.first)
+            entry.first->blockSignals(entry.second);
+    }
 }
 
 uxSignalBlocker& uxSignalBlocker::operator=(uxSignalBlocker& other)

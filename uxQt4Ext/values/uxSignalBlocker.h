@@ -3,6 +3,7 @@
 #include "uxQt4ExtGlobal.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <initializer_list>
 #include <utility>
@@ -19,7 +20,7 @@
  * } // both restored, in the order they were blocked
  * @endcode
  * Copying transfers ownership of the entries, so exactly one blocker restores
- * each object.
+ * each object. An object destroyed meanwhile is forgotten.
  */
 class UXQT4EXT_EXPORT uxSignalBlocker : public QObject
 {
@@ -48,5 +49,6 @@ protected:
     void move(uxSignalBlocker& other);
 
 private:
-    std::vector<std::pair<QObject*, bool>> m_entries;
+    // Guarded, so that an object destroyed while blocked is simply skipped.
+    std::vector<std::pair<QPointer<QObject>, bool>> m_entries;
 };

@@ -26,7 +26,7 @@ void uxUIStyle::applyFont(QWidget* source, QWidget* target)
 
 void uxUIStyle::setControlProperty(QWidget* w, const char* name, const QVariant& v)
 {
-    if (!w)
+    if (!w || !name)
         return;
     const QVariant current = w->property(name);
     if ((current.isValid() && current == v) || (!current.isValid() && !v.isValid()))
