@@ -16,25 +16,19 @@ namespace {
 // The building steps are protected members that a subclass may call again or reuse.
 struct SliderSteps : QUxIntVector3DSlider
 {
-    using QUxIntVectorSliderBase::createLabels;
-    using QUxIntVectorSliderBase::createLayout;
-    using QUxIntVectorSliderBase::createSliderConnections;
-    using QUxIntVectorSliderBase::createSliders;
-    using QUxIntVectorSliderBase::init;
+    using QUxIntVectorSliderBase::createLabels, QUxIntVectorSliderBase::createLayout,
+        QUxIntVectorSliderBase::createSliderConnections, QUxIntVectorSliderBase::createSliders,
+        QUxIntVectorSliderBase::init;
 };
 struct SpinerSteps : QUxIntVector3DSpiner
 {
-    using QUxIntVectorSpinerBase::createSpinerConnections;
-    using QUxIntVectorSpinerBase::createSpiners;
-    using QUxIntVectorSpinerBase::init;
+    using QUxIntVectorSpinerBase::createSpinerConnections, QUxIntVectorSpinerBase::createSpiners,
+        QUxIntVectorSpinerBase::init;
 };
 struct SliderVectorSteps : QUxVec3SliderControl
 {
-    using QUxSliderVectorControl::createConnections;
-    using QUxSliderVectorControl::createLabel;
-    using QUxSliderVectorControl::createLayout;
-    using QUxSliderVectorControl::createSlider;
-    using QUxSliderVectorControl::init;
+    using QUxSliderVectorControl::createConnections, QUxSliderVectorControl::createLabel,
+        QUxSliderVectorControl::createLayout, QUxSliderVectorControl::createSlider, QUxSliderVectorControl::init;
 };
 
 /// Focuses the field inside @p component and types @p text without committing it.
@@ -58,212 +52,188 @@ class tst_QUxVectorSliders : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
 
-    void shouldReportWholeVectorOnceForSetValue();
-    void shouldPassRangesAndStepsToEveryComponent();
-    void shouldReportComponentEditWithWholeVectorOnce();
-    void shouldPassDecimalsSuffixesAndSliderPosition();
-    void shouldShowOnlyNonEmptySubLabels();
-    void shouldBuildAllComponentsForEverySize();
+    void shouldReportWholeVectorOnceForSetValue()
+    {
+        QUxVec3SliderControl control;
+        QSignalSpy changed(&control, &QUxVec3SliderControl::changed);
+        control.setValue(QVector3D(0.25f, 0.5f, 0.75f));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).value<QVector3D>(), QVector3D(0.25f, 0.5f, 0.75f));
+        QCOMPARE(control.value(), QVector3D(0.25f, 0.5f, 0.75f));
 
-    void shouldReportIntegerVectorOnceForSetValue();
-    void shouldReportIntegerSliderEditWithWholeVector();
-    void shouldReportTypedIntegerComponentWithWholeVector();
-    void shouldPassIntegerRangesAndStepsToEveryComponent();
-    void shouldDeliverIntegerVectorThroughQueuedConnection();
-    void shouldStayQuietWhileBeingDestroyed();
+        QUxIntVector3DSpiner integers;
+        QSignalSpy integerChanged(&integers, &QUxIntVector3DSpiner::changed);
+        integers.setValue(QUxIntVector3D(1920, 1080, 3));
+        QCOMPARE(integerChanged.count(), 1);
+        QCOMPARE(integerChanged.at(0).at(0).value<QUxIntVector3D>(), QUxIntVector3D(1920, 1080, 3));
+        QCOMPARE(integers.value(), QUxIntVector3D(1920, 1080, 3));
+    }
+
+    void shouldReportComponentEditWithWholeVectorOnce()
+    {
+        QUxVec3SliderControl control;
+        control.setValue(QVector3D(0.1f, 0.2f, 0.3f));
+        QSignalSpy changed(&control, &QUxVec3SliderControl::changed);
+        // What a commit in the Y field does: the slider takes the typed value.
+        control.slider(1)->setValue(0.9);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).value<QVector3D>(), QVector3D(0.1f, 0.9f, 0.3f));
+
+        QUxIntVector3DSlider integers;
+        integers.setMaximum(QUxIntVector3D(100, 100, 100));
+        integers.setValue(QUxIntVector3D(10, 20, 30));
+        QSignalSpy integerChanged(&integers, &QUxIntVector3DSlider::changed);
+        integers.slider(2)->setValue(99);
+        QCOMPARE(integerChanged.count(), 1);
+        QCOMPARE(integerChanged.at(0).at(0).value<QUxIntVector3D>(), QUxIntVector3D(10, 20, 99));
+    }
+
+    void shouldReportTypedIntegerComponentWithWholeVector()
+    {
+        QUxIntVector2DSpiner control;
+        control.show();
+        control.setValue(QUxIntVector2D(640, 480));
+        QSignalSpy changed(&control, &QUxIntVector2DSpiner::changed);
+        auto* edit = control.spiner(1)->findChild<QLineEdit*>();
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("720"));
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).value<QUxIntVector2D>(), QUxIntVector2D(640, 720));
+    }
+
+    void shouldPassRangesAndStepsToEveryComponent()
+    {
+        QUxVec4SliderControl control;
+        QSignalSpy changed(&control, &QUxVec4SliderControl::changed);
+        control.setMinimum(QVector4D(-1, -2, -3, -4));
+        control.setMaximum(QVector4D(1, 2, 3, 4));
+        control.setHardMinimum(QVector4D(-10, -20, -30, -40));
+        control.setHardMaximum(QVector4D(10, 20, 30, 40));
+        control.setLineStep(QVector4D(0.5f, 0.25f, 0.125f, 1));
+        QCOMPARE(changed.count(), 0);
+        for (int axis = 0; axis < 4; ++axis) {
+            const QUxSlider* s = control.slider(axis);
+            const double k = axis + 1;
+            QCOMPARE(s->minValue(), -k);
+            QCOMPARE(s->maxValue(), k);
+            QCOMPARE(s->hardMinValue(), -10 * k);
+            QCOMPARE(s->hardMaxValue(), 10 * k);
+        }
+        QCOMPARE(control.slider(2)->lineStep(), 0.125);
+        // Values beyond the soft range but inside the hard one are kept.
+        control.setValue(QVector4D(5, 5, 5, 5));
+        QCOMPARE(control.value(), QVector4D(5, 5, 5, 5));
+        control.setValue(QVector4D(50, 50, 50, 50));
+        QCOMPARE(control.value(), QVector4D(10, 20, 30, 40));
+    }
+
+    void shouldPassIntegerRangesAndStepsToEveryComponent()
+    {
+        QUxIntVector4DSlider sliders;
+        sliders.setMinimum(QUxIntVector4D(1, 2, 3, 4));
+        sliders.setMaximum(QUxIntVector4D(10, 20, 30, 40));
+        sliders.setStep(QUxIntVector4D(1, 2, 3, 4));
+        sliders.setPageStep(QUxIntVector4D(5, 6, 7, 8));
+        sliders.setTracking(false);
+        for (int axis = 0; axis < 4; ++axis) {
+            const QUxIntegerSlider* s = sliders.slider(axis);
+            QCOMPARE(s->minimum(), axis + 1);
+            QCOMPARE(s->maximum(), 10 * (axis + 1));
+            QCOMPARE(s->step(), axis + 1);
+            QCOMPARE(s->pageStep(), axis + 5);
+            QVERIFY(!s->hasTracking());
+        }
+        QCOMPARE(sliders.value(), QUxIntVector4D(1, 2, 3, 4)); // raised to the new minimum
+        QUxIntVector3DSpiner spiners;
+        spiners.setMinimum(QUxIntVector3D(-5, -6, -7));
+        spiners.setStep(QUxIntVector3D(2, 3, 4));
+        QCOMPARE(spiners.spiner(1)->minimum(), -6);
+        QCOMPARE(spiners.spiner(2)->singleStep(), 4);
+    }
+
+    void shouldPassDecimalsSuffixesAndSliderPosition()
+    {
+        QUxVec3SliderControl control;
+        control.setDisplayDecimals(QUxIntVector3D(1, 2, 3));
+        control.setSuffix({QStringLiteral(" m"), QStringLiteral(" s")});
+        control.setSliderPos(QUxSlider::Right);
+        control.setTracking(false);
+        QCOMPARE(control.slider(0)->sliderPos(), QUxSlider::Right);
+        QCOMPARE(control.slider(2)->sliderPos(), QUxSlider::Right);
+        QVERIFY(!control.slider(1)->hasTracking());
+        const auto* field = control.slider(1)->findChild<QUxDoubleSpiner*>();
+        QVERIFY(field);
+        QCOMPARE(field->suffix(), QStringLiteral(" s"));
+        QCOMPARE(field->displayDecimals(), 2);
+        QCOMPARE(control.slider(2)->findChild<QUxDoubleSpiner*>()->suffix(), QString());
+    }
+
+    void shouldShowOnlyNonEmptySubLabels()
+    {
+        QUxVec3SliderControl control;
+        control.show();
+        QList<QLabel*> labels = control.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(labels.size(), 3);
+        for (QLabel* l : labels)
+            QVERIFY(!l->isVisible());
+        control.setSubLabels({QStringLiteral("R"), QString(), QStringLiteral("B")});
+        QCOMPARE(control.subLabels(), (QStringList{"R", "", "B"}));
+        int shown = 0;
+        for (QLabel* l : labels)
+            shown += l->isVisible() ? 1 : 0;
+        QCOMPARE(shown, 2);
+    }
+
+    void shouldBuildAllComponentsForEverySize()
+    {
+        QUxVec2SliderControl two;
+        QUxVec4SliderControl four;
+        QCOMPARE(two.componentCount(), 2);
+        QCOMPARE(four.componentCount(), 4);
+        QVERIFY(two.isValid());
+        QVERIFY(four.isValid());
+        QVERIFY(!two.slider(2));
+        QUxIntVector2DSpiner spiners;
+        QUxIntVector4DSlider sliders;
+        QVERIFY(spiners.isValid());
+        QCOMPARE(sliders.componentCount(), 4);
+        QVERIFY(sliders.slider(3));
+        QVERIFY(!sliders.slider(4));
+    }
+
+    void shouldDeliverIntegerVectorThroughQueuedConnection()
+    {
+        QUxIntVector3DSlider control;
+        QUxIntVector3D received;
+        QObject receiver;
+        connect(
+            &control, &QUxIntVector3DSlider::changed, &receiver, [&received](const QUxIntVector3D& v) { received = v; },
+            Qt::QueuedConnection);
+        control.setMaximum(QUxIntVector3D(10, 10, 10));
+        control.setValue(QUxIntVector3D(1, 2, 3));
+        QTRY_COMPARE(received, QUxIntVector3D(1, 2, 3));
+        for (const char* name : {"QUxIntVector2D", "QUxIntVector3D", "QUxIntVector4D"})
+            QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
+    }
+
+    void shouldStayQuietWhileBeingDestroyed()
+    {
+        QObject host;
+        int reports = 0;
+        auto* sliders = new QUxVec3SliderControl;
+        QVERIFY(typeWithoutCommit(sliders, sliders->slider(0), QStringLiteral("0.5")));
+        connect(sliders, &QUxVec3SliderControl::changed, &host, [&] { reports += 1 + int(sliders->value().x()); });
+        delete sliders; // closing commits the typed text
+        auto* spiners = new QUxIntVector2DSpiner;
+        QVERIFY(typeWithoutCommit(spiners, spiners->spiner(1), QStringLiteral("7")));
+        connect(spiners, &QUxIntVector2DSpiner::changed, &host, [&] { reports += 1 + spiners->value().getY(); });
+        delete spiners;
+        QCOMPARE(reports, 0);
+    }
 };
-
-void tst_QUxVectorSliders::initTestCase() { QLocale::setDefault(QLocale::c()); }
-
-void tst_QUxVectorSliders::shouldReportWholeVectorOnceForSetValue()
-{
-    QUxVec3SliderControl control;
-    QSignalSpy changed(&control, &QUxVec3SliderControl::changed);
-    control.setValue(QVector3D(0.25f, 0.5f, 0.75f));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).value<QVector3D>(), QVector3D(0.25f, 0.5f, 0.75f));
-    QCOMPARE(control.value(), QVector3D(0.25f, 0.5f, 0.75f));
-}
-
-void tst_QUxVectorSliders::shouldPassRangesAndStepsToEveryComponent()
-{
-    QUxVec4SliderControl control;
-    QSignalSpy changed(&control, &QUxVec4SliderControl::changed);
-    control.setMinimum(QVector4D(-1, -2, -3, -4));
-    control.setMaximum(QVector4D(1, 2, 3, 4));
-    control.setHardMinimum(QVector4D(-10, -20, -30, -40));
-    control.setHardMaximum(QVector4D(10, 20, 30, 40));
-    control.setLineStep(QVector4D(0.5f, 0.25f, 0.125f, 1));
-    QCOMPARE(changed.count(), 0);
-    for (int axis = 0; axis < 4; ++axis) {
-        const QUxSlider* s = control.slider(axis);
-        const double k = axis + 1;
-        QCOMPARE(s->minValue(), -k);
-        QCOMPARE(s->maxValue(), k);
-        QCOMPARE(s->hardMinValue(), -10 * k);
-        QCOMPARE(s->hardMaxValue(), 10 * k);
-    }
-    QCOMPARE(control.slider(2)->lineStep(), 0.125);
-    // Values beyond the soft range but inside the hard one are kept.
-    control.setValue(QVector4D(5, 5, 5, 5));
-    QCOMPARE(control.value(), QVector4D(5, 5, 5, 5));
-    control.setValue(QVector4D(50, 50, 50, 50));
-    QCOMPARE(control.value(), QVector4D(10, 20, 30, 40));
-}
-
-void tst_QUxVectorSliders::shouldReportComponentEditWithWholeVectorOnce()
-{
-    QUxVec3SliderControl control;
-    control.setValue(QVector3D(0.1f, 0.2f, 0.3f));
-    QSignalSpy changed(&control, &QUxVec3SliderControl::changed);
-    // What a commit in the Y field does: the slider takes the typed value.
-    control.slider(1)->setValue(0.9);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).value<QVector3D>(), QVector3D(0.1f, 0.9f, 0.3f));
-}
-
-void tst_QUxVectorSliders::shouldPassDecimalsSuffixesAndSliderPosition()
-{
-    QUxVec3SliderControl control;
-    control.setDisplayDecimals(QUxIntVector3D(1, 2, 3));
-    control.setSuffix({QStringLiteral(" m"), QStringLiteral(" s")});
-    control.setSliderPos(QUxSlider::Right);
-    control.setTracking(false);
-    QCOMPARE(control.slider(0)->sliderPos(), QUxSlider::Right);
-    QCOMPARE(control.slider(2)->sliderPos(), QUxSlider::Right);
-    QVERIFY(!control.slider(1)->hasTracking());
-    const auto* field = control.slider(1)->findChild<QUxDoubleSpiner*>();
-    QVERIFY(field);
-    QCOMPARE(field->suffix(), QStringLiteral(" s"));
-    QCOMPARE(field->displayDecimals(), 2);
-    QCOMPARE(control.slider(2)->findChild<QUxDoubleSpiner*>()->suffix(), QString());
-}
-
-void tst_QUxVectorSliders::shouldShowOnlyNonEmptySubLabels()
-{
-    QUxVec3SliderControl control;
-    control.show();
-    QList<QLabel*> labels = control.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(labels.size(), 3);
-    for (QLabel* l : labels)
-        QVERIFY(!l->isVisible());
-    control.setSubLabels({QStringLiteral("R"), QString(), QStringLiteral("B")});
-    QCOMPARE(control.subLabels(), (QStringList{"R", "", "B"}));
-    int shown = 0;
-    for (QLabel* l : labels)
-        shown += l->isVisible() ? 1 : 0;
-    QCOMPARE(shown, 2);
-}
-
-void tst_QUxVectorSliders::shouldBuildAllComponentsForEverySize()
-{
-    QUxVec2SliderControl two;
-    QUxVec4SliderControl four;
-    QCOMPARE(two.componentCount(), 2);
-    QCOMPARE(four.componentCount(), 4);
-    QVERIFY(two.isValid());
-    QVERIFY(four.isValid());
-    QVERIFY(!two.slider(2));
-    QUxIntVector2DSpiner spiners;
-    QUxIntVector4DSlider sliders;
-    QVERIFY(spiners.isValid());
-    QCOMPARE(sliders.componentCount(), 4);
-    QVERIFY(sliders.slider(3));
-    QVERIFY(!sliders.slider(4));
-}
-
-void tst_QUxVectorSliders::shouldReportIntegerVectorOnceForSetValue()
-{
-    QUxIntVector3DSpiner control;
-    QSignalSpy changed(&control, &QUxIntVector3DSpiner::changed);
-    control.setValue(QUxIntVector3D(1920, 1080, 3));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).value<QUxIntVector3D>(), QUxIntVector3D(1920, 1080, 3));
-    QCOMPARE(control.value(), QUxIntVector3D(1920, 1080, 3));
-}
-
-void tst_QUxVectorSliders::shouldReportIntegerSliderEditWithWholeVector()
-{
-    QUxIntVector3DSlider control;
-    control.setMaximum(QUxIntVector3D(100, 100, 100));
-    control.setValue(QUxIntVector3D(10, 20, 30));
-    QSignalSpy changed(&control, &QUxIntVector3DSlider::changed);
-    control.slider(2)->setValue(99);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).value<QUxIntVector3D>(), QUxIntVector3D(10, 20, 99));
-}
-
-void tst_QUxVectorSliders::shouldReportTypedIntegerComponentWithWholeVector()
-{
-    QUxIntVector2DSpiner control;
-    control.show();
-    control.setValue(QUxIntVector2D(640, 480));
-    QSignalSpy changed(&control, &QUxIntVector2DSpiner::changed);
-    auto* edit = control.spiner(1)->findChild<QLineEdit*>();
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("720"));
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0).at(0).value<QUxIntVector2D>(), QUxIntVector2D(640, 720));
-}
-
-void tst_QUxVectorSliders::shouldPassIntegerRangesAndStepsToEveryComponent()
-{
-    QUxIntVector4DSlider sliders;
-    QSignalSpy changed(&sliders, &QUxIntVector4DSlider::changed);
-    sliders.setMinimum(QUxIntVector4D(1, 2, 3, 4));
-    sliders.setMaximum(QUxIntVector4D(10, 20, 30, 40));
-    sliders.setStep(QUxIntVector4D(1, 2, 3, 4));
-    sliders.setPageStep(QUxIntVector4D(5, 6, 7, 8));
-    sliders.setTracking(false);
-    for (int axis = 0; axis < 4; ++axis) {
-        const QUxIntegerSlider* s = sliders.slider(axis);
-        QCOMPARE(s->minimum(), axis + 1);
-        QCOMPARE(s->maximum(), 10 * (axis + 1));
-        QCOMPARE(s->step(), axis + 1);
-        QCOMPARE(s->pageStep(), axis + 5);
-        QVERIFY(!s->hasTracking());
-    }
-    QCOMPARE(sliders.value(), QUxIntVector4D(1, 2, 3, 4)); // raised to the new minimum
-    QUxIntVector3DSpiner spiners;
-    spiners.setMinimum(QUxIntVector3D(-5, -6, -7));
-    spiners.setStep(QUxIntVector3D(2, 3, 4));
-    QCOMPARE(spiners.spiner(1)->minimum(), -6);
-    QCOMPARE(spiners.spiner(2)->singleStep(), 4);
-    Q_UNUSED(changed);
-}
-
-void tst_QUxVectorSliders::shouldDeliverIntegerVectorThroughQueuedConnection()
-{
-    QUxIntVector3DSlider control;
-    QUxIntVector3D received;
-    QObject receiver;
-    connect(
-        &control, &QUxIntVector3DSlider::changed, &receiver, [&received](const QUxIntVector3D& v) { received = v; },
-        Qt::QueuedConnection);
-    control.setMaximum(QUxIntVector3D(10, 10, 10));
-    control.setValue(QUxIntVector3D(1, 2, 3));
-    QTRY_COMPARE(received, QUxIntVector3D(1, 2, 3));
-    for (const char* name : {"QUxIntVector2D", "QUxIntVector3D", "QUxIntVector4D"})
-        QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
-}
-
-void tst_QUxVectorSliders::shouldStayQuietWhileBeingDestroyed()
-{
-    QObject host;
-    int reports = 0;
-    auto* sliders = new QUxVec3SliderControl;
-    QVERIFY(typeWithoutCommit(sliders, sliders->slider(0), QStringLiteral("0.5")));
-    connect(sliders, &QUxVec3SliderControl::changed, &host, [&] { reports += 1 + int(sliders->value().x()); });
-    delete sliders; // closing commits the typed text
-    auto* spiners = new QUxIntVector2DSpiner;
-    QVERIFY(typeWithoutCommit(spiners, spiners->spiner(1), QStringLiteral("7")));
-    connect(spiners, &QUxIntVector2DSpiner::changed, &host, [&] { reports += 1 + spiners->value().getY(); });
-    delete spiners;
-    QCOMPARE(reports, 0);
-}
 
 QTEST_MAIN(tst_QUxVectorSliders)
 #include "tst_QUxVectorSliders.moc"
