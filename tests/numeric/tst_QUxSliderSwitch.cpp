@@ -33,214 +33,172 @@ class tst_QUxSliderSwitch : public QObject
 private slots:
     void init() { uxPlatform::reset(); }
 
-    void shouldScaleSizeHintWithDpi_data();
-    void shouldScaleSizeHintWithDpi();
-    void shouldToggleOnlyOnLeftRelease_data();
-    void shouldToggleOnlyOnLeftRelease();
-    void shouldIgnoreReleaseOutsideTheSwitch();
-    void shouldIgnoreReleaseWhileDisabledOrHidden();
-    void shouldEmitToggledOnEverySetOn();
-    void shouldPaintTrackGradientsAndKnob_data();
-    void shouldPaintTrackGradientsAndKnob();
-    void shouldOutlineInOrangeUnderMouse();
-    void shouldSlideKnobOnePixelPerStepAndStopAtTheEnd();
-    void shouldSlideKnobToTheOtherSideAfterClick();
-};
-
-void tst_QUxSliderSwitch::shouldScaleSizeHintWithDpi_data()
-{
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("1") << 1.0 << QSize(25, 16);
-    QTest::newRow("1.5 truncates 37.5") << 1.5 << QSize(37, 24);
-    QTest::newRow("2") << 2.0 << QSize(50, 32);
-}
-
-void tst_QUxSliderSwitch::shouldScaleSizeHintWithDpi()
-{
-    QFETCH(double, scale);
-    QFETCH(QSize, size);
-    uxPlatform::setDpiScale(scale, scale);
-    QUxSliderSwitch sw;
-    QCOMPARE(sw.sizeHint(), size);
-    QCOMPARE(sw.minimumSizeHint(), size);
-    QCOMPARE(sw.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(sw.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
-    QVERIFY(sw.testAttribute(Qt::WA_Hover));
-}
-
-void tst_QUxSliderSwitch::shouldToggleOnlyOnLeftRelease_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("toggles");
-    QTest::newRow("left") << int(Qt::LeftButton) << true;
-    QTest::newRow("right") << int(Qt::RightButton) << false;
-    QTest::newRow("middle") << int(Qt::MiddleButton) << false;
-}
-
-void tst_QUxSliderSwitch::shouldToggleOnlyOnLeftRelease()
-{
-    QFETCH(int, button);
-    QFETCH(bool, toggles);
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
-    sw.show();
-    QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
-
-    QTest::mouseClick(&sw, Qt::MouseButton(button), Qt::NoModifier, QPoint(12, 8));
-
-    QCOMPARE(sw.isOn(), toggles);
-    QCOMPARE(spy.count(), toggles ? 1 : 0);
-    if (toggles) {
-        QCOMPARE(spy.at(0).at(0).toBool(), true);
-        QTest::mouseClick(&sw, Qt::MouseButton(button), Qt::NoModifier, QPoint(12, 8));
-        QCOMPARE(sw.isOn(), false);
-        QCOMPARE(spy.at(1).at(0).toBool(), false);
+    void shouldScaleSizeHintWithDpi_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("1") << 1.0 << QSize(25, 16);
+        QTest::newRow("1.5 truncates 37.5") << 1.5 << QSize(37, 24);
+        QTest::newRow("2") << 2.0 << QSize(50, 32);
     }
-}
 
-void tst_QUxSliderSwitch::shouldIgnoreReleaseOutsideTheSwitch()
-{
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
-    sw.show();
-    QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
+    void shouldScaleSizeHintWithDpi()
+    {
+        QFETCH(double, scale);
+        QFETCH(QSize, size);
+        uxPlatform::setDpiScale(scale, scale);
+        QUxSliderSwitch sw;
+        QCOMPARE(sw.sizeHint(), size);
+        QCOMPARE(sw.minimumSizeHint(), size);
+        QCOMPARE(sw.sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred));
+        QVERIFY(sw.testAttribute(Qt::WA_Hover));
+    }
 
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(30, 8), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(&sw, &release);
+    void shouldToggleOnlyOnLeftReleaseInside_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QPoint>("at");
+        QTest::addColumn<bool>("toggles");
+        const QPoint inside(12, 8);
+        QTest::newRow("left") << int(Qt::LeftButton) << QString() << inside << true;
+        QTest::newRow("right") << int(Qt::RightButton) << QString() << inside << false;
+        QTest::newRow("middle") << int(Qt::MiddleButton) << QString() << inside << false;
+        QTest::newRow("outside") << int(Qt::LeftButton) << QString() << QPoint(30, 8) << false;
+        QTest::newRow("hidden") << int(Qt::LeftButton) << QStringLiteral("hidden") << inside << false;
+        QTest::newRow("disabled") << int(Qt::LeftButton) << QStringLiteral("disabled") << inside << false;
+    }
 
-    QVERIFY(!release.isAccepted());
-    QCOMPARE(spy.count(), 0);
-    QCOMPARE(sw.isOn(), false);
-}
+    void shouldToggleOnlyOnLeftReleaseInside()
+    {
+        QFETCH(int, button);
+        QFETCH(QString, state);
+        QFETCH(QPoint, at);
+        QFETCH(bool, toggles);
+        QUxSliderSwitch sw;
+        sw.resize(sw.sizeHint());
+        sw.setVisible(state != QLatin1String("hidden"));
+        sw.setEnabled(state != QLatin1String("disabled"));
+        QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
 
-void tst_QUxSliderSwitch::shouldIgnoreReleaseWhileDisabledOrHidden()
-{
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
-    QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
+        for (bool on : {true, false}) {
+            QMouseEvent press(QEvent::MouseButtonPress, at, Qt::MouseButton(button), Qt::MouseButton(button),
+                              Qt::NoModifier);
+            QApplication::sendEvent(&sw, &press);
+            QCOMPARE(spy.count(), on ? 0 : int(toggles)); // a press alone toggles nothing
+            QMouseEvent release(QEvent::MouseButtonRelease, at, Qt::MouseButton(button), Qt::NoButton, Qt::NoModifier);
+            QApplication::sendEvent(&sw, &release);
+            QCOMPARE(sw.isOn(), toggles && on);
+            if (state.isEmpty())
+                QCOMPARE(release.isAccepted(), toggles); // ignored releases go on to the parent
+        }
+        QCOMPARE(spy, toggles ? QList<QVariantList>({{true}, {false}}) : QList<QVariantList>());
+    }
 
-    QMouseEvent hiddenRelease(QEvent::MouseButtonRelease, QPointF(12, 8), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(&sw, &hiddenRelease);
-    QCOMPARE(spy.count(), 0);
+    void shouldEmitToggledOnEverySetOn()
+    {
+        QUxSliderSwitch sw;
+        QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
+        sw.setOn(true);
+        sw.setOn(true);
+        sw.setOn(false);
+        QCOMPARE(spy, QList<QVariantList>({{true}, {true}, {false}}));
+    }
 
-    sw.show();
-    sw.setEnabled(false);
-    QMouseEvent disabledRelease(QEvent::MouseButtonRelease, QPointF(12, 8), Qt::LeftButton, Qt::NoButton,
-                                Qt::NoModifier);
-    QApplication::sendEvent(&sw, &disabledRelease);
-    QCOMPARE(spy.count(), 0);
-    QCOMPARE(sw.isOn(), false);
-}
+    void shouldPaintTrackGradientsAndKnob_data()
+    {
+        QTest::addColumn<bool>("on");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QPoint>("knob");
+        QTest::addColumn<QColor>("knobColor");
+        QTest::addColumn<QPoint>("trackTop");
+        QTest::addColumn<QColor>("topColor");
+        QTest::addColumn<QPoint>("trackBottom");
+        QTest::addColumn<QColor>("bottomColor");
+        const auto row = [](const char* name, bool on, bool enabled, QColor knob, QColor top, QColor bottom) {
+            QTest::newRow(name) << on << enabled << (on ? KnobOnCentre : KnobOffCentre) << knob
+                                << (on ? TrackLeftTop : TrackRightTop) << top
+                                << (on ? TrackLeftBottom : TrackRightBottom) << bottom;
+        };
+        // the track beside the knob: its gradient from top to bottom
+        row("off", false, true, Qt::white, QColor(110, 110, 110), QColor(90, 90, 90));
+        row("on", true, true, Qt::white, QColor(65, 65, 65), QColor(45, 45, 45));
+        row("disabled off", false, false, QColor(0x6B, 0x6B, 0x6B), QColor(90, 90, 90), QColor(70, 70, 70));
+        row("disabled on", true, false, QColor(0x6B, 0x6B, 0x6B), QColor(90, 90, 90), QColor(70, 70, 70));
+    }
 
-void tst_QUxSliderSwitch::shouldEmitToggledOnEverySetOn()
-{
-    QUxSliderSwitch sw;
-    QSignalSpy spy(&sw, &QUxSliderSwitch::toggled);
-    sw.setOn(true);
-    sw.setOn(true);
-    sw.setOn(false);
-    QCOMPARE(spy.count(), 3);
-    QCOMPARE(spy.at(0).at(0).toBool(), true);
-    QCOMPARE(spy.at(1).at(0).toBool(), true);
-    QCOMPARE(spy.at(2).at(0).toBool(), false);
-}
+    void shouldPaintTrackGradientsAndKnob()
+    {
+        QFETCH(bool, on);
+        QFETCH(bool, enabled);
+        QFETCH(QPoint, knob);
+        QFETCH(QColor, knobColor);
+        QFETCH(QPoint, trackTop);
+        QFETCH(QColor, topColor);
+        QFETCH(QPoint, trackBottom);
+        QFETCH(QColor, bottomColor);
 
-void tst_QUxSliderSwitch::shouldPaintTrackGradientsAndKnob_data()
-{
-    QTest::addColumn<bool>("on");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QPoint>("knob");
-    QTest::addColumn<QColor>("knobColor");
-    QTest::addColumn<QPoint>("trackTop");
-    QTest::addColumn<QColor>("topColor");
-    QTest::addColumn<QPoint>("trackBottom");
-    QTest::addColumn<QColor>("bottomColor");
+        QUxSliderSwitch sw;
+        sw.setOn(on);
+        sw.setEnabled(enabled);
+        sw.resize(sw.sizeHint()); // the knob rests at its end after a resize
+        const QImage image = uxTest::grab(&sw);
+        for (const auto& [at, color] : {std::pair(knob, knobColor), {trackTop, topColor}, {trackBottom, bottomColor}})
+            QVERIFY2(uxTest::sameColor(image.pixelColor(at), color, 1), qPrintable(image.pixelColor(at).name()));
+    }
 
-    QTest::newRow("off") << false << true << KnobOffCentre << QColor(Qt::white) << TrackRightTop
-                         << QColor(110, 110, 110) << TrackRightBottom << QColor(90, 90, 90);
-    QTest::newRow("on") << true << true << KnobOnCentre << QColor(Qt::white) << TrackLeftTop << QColor(65, 65, 65)
-                        << TrackLeftBottom << QColor(45, 45, 45);
-    QTest::newRow("disabled off") << false << false << KnobOffCentre << QColor(0x6B, 0x6B, 0x6B) << TrackRightTop
-                                  << QColor(90, 90, 90) << TrackRightBottom << QColor(70, 70, 70);
-    QTest::newRow("disabled on") << true << false << KnobOnCentre << QColor(0x6B, 0x6B, 0x6B) << TrackLeftTop
-                                 << QColor(90, 90, 90) << TrackLeftBottom << QColor(70, 70, 70);
-}
+    void shouldOutlineInOrangeUnderMouse()
+    {
+        QUxSliderSwitch sw;
+        sw.resize(sw.sizeHint());
 
-void tst_QUxSliderSwitch::shouldPaintTrackGradientsAndKnob()
-{
-    QFETCH(bool, on);
-    QFETCH(bool, enabled);
-    QFETCH(QPoint, knob);
-    QFETCH(QColor, knobColor);
-    QFETCH(QPoint, trackTop);
-    QFETCH(QColor, topColor);
-    QFETCH(QPoint, trackBottom);
-    QFETCH(QColor, bottomColor);
+        const QColor plain = pixel(sw, TopEdge);
+        QVERIFY2(qAbs(plain.red() - plain.blue()) <= 2, qPrintable(plain.name()));
 
-    QUxSliderSwitch sw;
-    sw.setOn(on);
-    sw.setEnabled(enabled);
-    sw.resize(sw.sizeHint()); // the knob rests at its end after a resize
-    const QImage image = uxTest::grab(&sw);
+        sw.setAttribute(Qt::WA_UnderMouse, true);
+        const QColor hovered = pixel(sw, TopEdge);
+        // Orange (244, 133, 22) blended into the grey track.
+        QVERIFY2(hovered.red() - hovered.blue() > 60, qPrintable(hovered.name()));
+        QVERIFY(hovered.red() > hovered.green() && hovered.green() > hovered.blue());
+    }
 
-    QVERIFY2(uxTest::sameColor(image.pixelColor(knob), knobColor, 1), qPrintable(image.pixelColor(knob).name()));
-    QVERIFY2(uxTest::sameColor(image.pixelColor(trackTop), topColor, 1), qPrintable(image.pixelColor(trackTop).name()));
-    QVERIFY2(uxTest::sameColor(image.pixelColor(trackBottom), bottomColor, 1),
-             qPrintable(image.pixelColor(trackBottom).name()));
-}
+    void shouldSlideKnobOnePixelPerStepAndStopAtTheEnd()
+    {
+        QUxSliderSwitch sw;
+        sw.resize(sw.sizeHint());
+        const QPoint besideOffKnob(18, 8);
+        QVERIFY(!isWhite(pixel(sw, besideOffKnob)));
 
-void tst_QUxSliderSwitch::shouldOutlineInOrangeUnderMouse()
-{
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
+        sw.setOn(true);
+        for (int step = 0; step < 4; ++step)
+            sw.animateSlider();
+        // Knob centre 8 + 4 = 12: its right part now covers x 18.
+        QVERIFY(isWhite(pixel(sw, besideOffKnob)));
+        QVERIFY(!isWhite(pixel(sw, KnobOnCentre + QPoint(7, 0))));
 
-    const QColor plain = pixel(sw, TopEdge);
-    QVERIFY2(qAbs(plain.red() - plain.blue()) <= 2, qPrintable(plain.name()));
+        for (int step = 0; step < 20; ++step)
+            sw.animateSlider();
+        QUxSliderSwitch atRest;
+        atRest.setOn(true);
+        atRest.resize(atRest.sizeHint());
+        QCOMPARE(uxTest::grab(&sw), uxTest::grab(&atRest));
+    }
 
-    sw.setAttribute(Qt::WA_UnderMouse, true);
-    const QColor hovered = pixel(sw, TopEdge);
-    // Orange (244, 133, 22) blended into the grey track.
-    QVERIFY2(hovered.red() - hovered.blue() > 60, qPrintable(hovered.name()));
-    QVERIFY(hovered.red() > hovered.green() && hovered.green() > hovered.blue());
-}
+    void shouldSlideKnobToTheOtherSideAfterClick()
+    {
+        QUxSliderSwitch sw;
+        sw.resize(sw.sizeHint());
+        sw.show();
 
-void tst_QUxSliderSwitch::shouldSlideKnobOnePixelPerStepAndStopAtTheEnd()
-{
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
-    const QPoint besideOffKnob(18, 8);
-    QVERIFY(!isWhite(pixel(sw, besideOffKnob)));
+        QTest::mouseClick(&sw, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
+        QTRY_VERIFY_WITH_TIMEOUT(uxTest::sameColor(pixel(sw, TrackLeftBottom), QColor(45, 45, 45), 1), 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(isWhite(pixel(sw, KnobOnCentre)), 2000);
 
-    sw.setOn(true);
-    for (int step = 0; step < 4; ++step)
-        sw.animateSlider();
-    // Knob centre 8 + 4 = 12: its right part now covers x 18.
-    QVERIFY(isWhite(pixel(sw, besideOffKnob)));
-    QVERIFY(!isWhite(pixel(sw, KnobOnCentre + QPoint(7, 0))));
-
-    for (int step = 0; step < 20; ++step)
-        sw.animateSlider();
-    QUxSliderSwitch atRest;
-    atRest.setOn(true);
-    atRest.resize(atRest.sizeHint());
-    QCOMPARE(uxTest::grab(&sw), uxTest::grab(&atRest));
-}
-
-void tst_QUxSliderSwitch::shouldSlideKnobToTheOtherSideAfterClick()
-{
-    QUxSliderSwitch sw;
-    sw.resize(sw.sizeHint());
-    sw.show();
-
-    QTest::mouseClick(&sw, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
-    QTRY_VERIFY_WITH_TIMEOUT(uxTest::sameColor(pixel(sw, TrackLeftBottom), QColor(45, 45, 45), 1), 2000);
-    QTRY_VERIFY_WITH_TIMEOUT(isWhite(pixel(sw, KnobOnCentre)), 2000);
-
-    QTest::mouseClick(&sw, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
-    QTRY_VERIFY_WITH_TIMEOUT(uxTest::sameColor(pixel(sw, TrackRightBottom), QColor(90, 90, 90), 1), 2000);
-    QTRY_VERIFY_WITH_TIMEOUT(isWhite(pixel(sw, KnobOffCentre)), 2000);
-}
+        QTest::mouseClick(&sw, Qt::LeftButton, Qt::NoModifier, QPoint(12, 8));
+        QTRY_VERIFY_WITH_TIMEOUT(uxTest::sameColor(pixel(sw, TrackRightBottom), QColor(90, 90, 90), 1), 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(isWhite(pixel(sw, KnobOffCentre)), 2000);
+    }
+};
 
 QTEST_MAIN(tst_QUxSliderSwitch)
 #include "tst_QUxSliderSwitch.moc"
