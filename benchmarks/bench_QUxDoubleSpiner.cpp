@@ -1,7 +1,8 @@
 // Typing into a numeric field: the validator runs on the text, then the
 // commit (Enter) interprets it. Ours evaluates arithmetic and relative
 // entries; the anchor is a stock QDoubleSpinBox taking a plain number.
-// "ours fresh engine" pays for a script engine per commit instead of reusing one.
+// "ours shared engine" sends every text through the one kept script engine,
+// "ours fresh engine" pays for a script engine per commit.
 #include <QUxDoubleSpiner.h>
 #include <uxScriptEvaluator_p.h>
 
@@ -10,6 +11,8 @@
 #include <QTest>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(uxScriptEvaluator::Strategy)
 
 namespace {
 
@@ -44,17 +47,19 @@ void bench_QUxDoubleSpiner::addRows(const QString& oursText)
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("stock");
-    QTest::addColumn<bool>("freshEngine");
-    QTest::newRow("ours") << oursText << false << false;
-    QTest::newRow("ours fresh engine") << oursText << false << true;
-    QTest::newRow("anchor") << QStringLiteral("14") << true << false;
+    QTest::addColumn<uxScriptEvaluator::Strategy>("strategy");
+    using S = uxScriptEvaluator::Strategy;
+    QTest::newRow("ours") << oursText << false << S::ArithmeticFirst;
+    QTest::newRow("ours shared engine") << oursText << false << S::SharedEngine;
+    QTest::newRow("ours fresh engine") << oursText << false << S::FreshEngine;
+    QTest::newRow("anchor") << QStringLiteral("14") << true << S::ArithmeticFirst;
 }
 
 void bench_QUxDoubleSpiner::run()
 {
     QFETCH(QString, text);
     QFETCH(bool, stock);
-    QFETCH(bool, freshEngine);
+    QFETCH(uxScriptEvaluator::Strategy, strategy);
 
     std::unique_ptr<QDoubleSpinBox> spin;
     if (stock) {
@@ -64,7 +69,7 @@ void bench_QUxDoubleSpiner::run()
     } else {
         spin = std::make_unique<QUxDoubleSpiner>();
     }
-    uxScriptEvaluator::setFreshEnginePerEvaluation(freshEngine);
+    uxScriptEvaluator::setStrategy(strategy);
     validateAndCommit(*spin, text); // warm-up: the shared engine is made on first use
     QBENCHMARK
     {
@@ -72,7 +77,7 @@ void bench_QUxDoubleSpiner::run()
         uxScriptEvaluator::forgetLastAnswer();
         validateAndCommit(*spin, text);
     }
-    uxScriptEvaluator::setFreshEnginePerEvaluation(false);
+    uxScriptEvaluator::setStrategy(uxScriptEvaluator::Strategy::ArithmeticFirst);
 }
 
 void bench_QUxDoubleSpiner::validateAndCommitExpression_data() { addRows(QStringLiteral("2*(3+4)")); }

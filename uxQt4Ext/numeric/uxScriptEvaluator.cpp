@@ -3,10 +3,14 @@
 #include <QCoreApplication>
 #include <QScriptEngine>
 #include <QScriptValue>
+#include <QVarLengthArray>
+
+#include <charconv>
+#include <cstring>
 
 namespace {
 
-bool s_freshEnginePerEvaluation = false;
+uxScriptEvaluator::Strategy s_strategy = uxScriptEvaluator::Strategy::ArithmeticFirst;
 QScriptEngine* s_sharedEngine = nullptr;
 
 // A field asks about the same text several times in a row (line-edit
@@ -57,25 +61,160 @@ bool readNumber(const QScriptValue& value, double& result)
     return true;
 }
 
+/**
+ * Reads the everyday subset of script arithmetic: decimal literals, unary and
+ * binary + - * /, parentheses and blanks. Script numbers are IEEE doubles and
+ * literals round to nearest, so a text read here has exactly the value the
+ * engine gives it. Whatever falls outside the subset (octal-looking literals,
+ * "--", a "/" where an operand belongs, which the engine reads as a regular
+ * expression, any syntax error) is refused and left to the engine.
+ */
+class ArithmeticReader
+{
+public:
+    explicit ArithmeticReader(const QString& text) : m_text(text) {}
+
+    bool read(double& result)
+    {
+        if (!expression(result))
+            return false;
+        skipBlanks();
+        return m_pos == m_text.size();
+    }
+
+private:
+    bool expression(double& result)
+    {
+        if (!term(result))
+            return false;
+        for (QChar op; takeOperator("+-", op);) {
+            double right = 0.0;
+            if (!term(right))
+                return false;
+            result = op == QLatin1Char('+') ? result + right : result - right;
+        }
+        return true;
+    }
+
+    bool term(double& result)
+    {
+        if (!unary(result))
+            return false;
+        for (QChar op; takeOperator("*/", op);) {
+            double right = 0.0;
+            if (!unary(right))
+                return false;
+            result = op == QLatin1Char('*') ? result * right : result / right;
+        }
+        return true;
+    }
+
+    bool unary(double& result)
+    {
+        QChar sign;
+        if (!takeOperator("+-", sign))
+            return primary(result);
+        if (!unary(result))
+            return false;
+        if (sign == QLatin1Char('-'))
+            result = -result;
+        return true;
+    }
+
+    bool primary(double& result)
+    {
+        skipBlanks();
+        if (m_pos < m_text.size() && m_text.at(m_pos) == QLatin1Char('(')) {
+            ++m_pos;
+            if (!expression(result))
+                return false;
+            skipBlanks();
+            if (m_pos == m_text.size() || m_text.at(m_pos) != QLatin1Char(')'))
+                return false;
+            ++m_pos;
+            return true;
+        }
+        return number(result);
+    }
+
+    bool number(double& result)
+    {
+        const int start = m_pos;
+        const int integerDigits = skipDigits();
+        const bool point = m_pos < m_text.size() && m_text.at(m_pos) == QLatin1Char('.');
+        if (point)
+            ++m_pos;
+        const int fractionDigits = point ? skipDigits() : 0;
+        if (integerDigits + fractionDigits == 0)
+            return false;
+        // The engine reads a leading zero followed by digits as octal.
+        if (integerDigits > 1 && m_text.at(start) == QLatin1Char('0'))
+            return false;
+        // from_chars rounds to nearest like the engine and, unlike strtod, ignores the C locale.
+        QVarLengthArray<char, 32> digits;
+        for (int i = start; i < m_pos; ++i)
+            digits.append(char(m_text.at(i).unicode()));
+        const char* end = digits.constData() + digits.size();
+        const std::from_chars_result read = std::from_chars(digits.constData(), end, result);
+        return read.ec == std::errc() && read.ptr == end; // out of range is left to the engine
+    }
+
+    /// Takes one of @p ops after blanks, refusing "++" and "--", which the engine reads as one token.
+    bool takeOperator(const char* ops, QChar& op)
+    {
+        skipBlanks();
+        const char c = m_pos < m_text.size() ? m_text.at(m_pos).toLatin1() : '\0';
+        if (c == '\0' || !std::strchr(ops, c))
+            return false;
+        const bool doubled = (c == '+' || c == '-') && m_pos + 1 < m_text.size() && m_text.at(m_pos + 1) == c;
+        if (doubled)
+            return false;
+        op = QLatin1Char(c);
+        ++m_pos;
+        return true;
+    }
+
+    int skipDigits()
+    {
+        const int start = m_pos;
+        while (m_pos < m_text.size() && m_text.at(m_pos).isDigit())
+            ++m_pos;
+        return m_pos - start;
+    }
+
+    void skipBlanks()
+    {
+        while (m_pos < m_text.size() && m_text.at(m_pos) == QLatin1Char(' '))
+            ++m_pos;
+    }
+
+    const QString& m_text;
+    int m_pos = 0;
+};
+
+bool evaluateWithEngine(const QString& expression, double& result, bool fresh)
+{
+    if (fresh) {
+        QScriptEngine engine;
+        return readNumber(engine.evaluate(expression, QString(), 1), result);
+    }
+    QScriptEngine& engine = sharedEngine();
+    const bool isNumber = readNumber(engine.evaluate(expression, QString(), 1), result);
+    engine.clearExceptions();
+    return isNumber;
+}
+
 } // namespace
 
 bool uxScriptEvaluator::evaluateNumber(const QString& expression, double& result)
 {
-    if (!isStatelessArithmetic(expression)) {
-        QScriptEngine engine;
-        return readNumber(engine.evaluate(expression, QString(), 1), result);
-    }
+    if (!isStatelessArithmetic(expression))
+        return evaluateWithEngine(expression, result, true);
+    if (s_strategy == Strategy::ArithmeticFirst && ArithmeticReader(expression).read(result))
+        return true;
     if (!s_lastAnswer.known || s_lastAnswer.expression != expression) {
         double value = 0.0;
-        bool isNumber = false;
-        if (s_freshEnginePerEvaluation) {
-            QScriptEngine engine;
-            isNumber = readNumber(engine.evaluate(expression, QString(), 1), value);
-        } else {
-            QScriptEngine& engine = sharedEngine();
-            isNumber = readNumber(engine.evaluate(expression, QString(), 1), value);
-            engine.clearExceptions();
-        }
+        const bool isNumber = evaluateWithEngine(expression, value, s_strategy == Strategy::FreshEngine);
         s_lastAnswer = LastAnswer{expression, isNumber, value, true};
     }
     if (s_lastAnswer.isNumber)
@@ -83,6 +222,6 @@ bool uxScriptEvaluator::evaluateNumber(const QString& expression, double& result
     return s_lastAnswer.isNumber;
 }
 
-void uxScriptEvaluator::setFreshEnginePerEvaluation(bool fresh) { s_freshEnginePerEvaluation = fresh; }
+void uxScriptEvaluator::setStrategy(Strategy strategy) { s_strategy = strategy; }
 
 void uxScriptEvaluator::forgetLastAnswer() { s_lastAnswer = LastAnswer(); }
