@@ -1,5 +1,6 @@
 #include <QUxDoubleSpiner.h>
 #include <uxPlatform.h>
+#include <uxSceneUnitChecks.h>
 #include <uxUIUtils.h>
 
 #include <QApplication>
@@ -560,36 +561,7 @@ private slots:
 
     void shouldUpdateSceneUnitOnAllRegisteredInstances()
     {
-        QUxDoubleSpiner first;
-        QUxDoubleSpiner second;
-        QUxDoubleSpiner plain;
-        plain.setSuffix(QStringLiteral(" deg"));
-        first.setDisplaySceneUnit(true);
-        second.setDisplaySceneUnit(true);
-        QCOMPARE(first.suffix(), QStringLiteral(" mm"));
-        std::make_unique<QUxDoubleSpiner>()->setDisplaySceneUnit(true); // deleted at once: must leave the registry
-
-        const auto rescale = [](float scale) {
-            uxUIUtils::setSceneUnitScale(scale);
-            QUxDoubleSpiner::updateInstancesWithSceneUnit();
-        };
-        rescale(10.0f);
-        QCOMPARE(first.suffix(), QStringLiteral(" cm"));
-        QCOMPARE(second.suffix(), QStringLiteral(" cm"));
-        QCOMPARE(plain.suffix(), QStringLiteral(" deg"));
-
-        second.setDisplaySceneUnit(false);
-        QCOMPARE(second.suffix(), QString());
-        rescale(2.5f);
-        QCOMPARE(first.suffix(), QString());
-        rescale(1000.0f);
-        QCOMPARE(first.suffix(), QStringLiteral(" m"));
-        QCOMPARE(second.suffix(), QString());
-
-        // switching on again reads the unit anew, even without the class-wide update
-        uxUIUtils::setSceneUnitScale(10.0f);
-        first.setDisplaySceneUnit(true);
-        QCOMPARE(first.suffix(), QStringLiteral(" cm"));
+        uxTest::verifySceneUnitFollowers<QUxDoubleSpiner>(QStringLiteral(" deg"));
     }
 
     void shouldApplyRelativeOperatorForHosts_data()

@@ -1,5 +1,6 @@
 #include <QUxSpiner.h>
 #include <uxPlatform.h>
+#include <uxSceneUnitChecks.h>
 #include <uxUIUtils.h>
 
 #include <QApplication>
@@ -280,34 +281,7 @@ private slots:
 
     void shouldUpdateSceneUnitOnAllRegisteredInstances()
     {
-        QUxSpiner first;
-        QUxSpiner second;
-        QUxSpiner plain;
-        plain.setSuffix(QStringLiteral(" px"));
-        first.setDisplaySceneUnit(true);
-        second.setDisplaySceneUnit(true);
-        QCOMPARE(first.suffix(), QStringLiteral(" mm"));
-        std::make_unique<QUxSpiner>()->setDisplaySceneUnit(true); // deleted at once: must leave the registry
-
-        const auto rescale = [](float scale) {
-            uxUIUtils::setSceneUnitScale(scale);
-            QUxSpiner::updateInstancesWithSceneUnit();
-        };
-        rescale(10.0f);
-        QCOMPARE(first.suffix(), QStringLiteral(" cm"));
-        QCOMPARE(second.suffix(), QStringLiteral(" cm"));
-        QCOMPARE(plain.suffix(), QStringLiteral(" px"));
-
-        second.setDisplaySceneUnit(false);
-        QCOMPARE(second.suffix(), QString());
-        rescale(1000.0f);
-        QCOMPARE(first.suffix(), QStringLiteral(" m"));
-        QCOMPARE(second.suffix(), QString());
-
-        // switching on again reads the unit anew, even without the class-wide update
-        uxUIUtils::setSceneUnitScale(10.0f);
-        first.setDisplaySceneUnit(true);
-        QCOMPARE(first.suffix(), QStringLiteral(" cm"));
+        uxTest::verifySceneUnitFollowers<QUxSpiner>(QStringLiteral(" px"));
     }
 };
 
