@@ -83,28 +83,33 @@ public:
     }
 
 private:
-    bool expression(double& result)
-    {
-        if (!term(result))
-            return false;
-        for (QChar op; takeOperator("+-", op);) {
-            double right = 0.0;
-            if (!term(right))
-                return false;
-            result = op == QLatin1Char('+') ? result + right : result - right;
-        }
-        return true;
-    }
+    bool expression(double& result) { return leftToRight("+-", &ArithmeticReader::term, result); }
 
-    bool term(double& result)
+    bool term(double& result) { return leftToRight("*/", &ArithmeticReader::unary, result); }
+
+    /// One precedence level: operands read by @p operand, joined by @p ops from left to right.
+    bool leftToRight(const char* ops, bool (ArithmeticReader::*operand)(double&), double& result)
     {
-        if (!unary(result))
+        if (!(this->*operand)(result))
             return false;
-        for (QChar op; takeOperator("*/", op);) {
+        for (QChar op; takeOperator(ops, op);) {
             double right = 0.0;
-            if (!unary(right))
+            if (!(this->*operand)(right))
                 return false;
-            result = op == QLatin1Char('*') ? result * right : result / right;
+            switch (op.toLatin1()) {
+            case '+':
+                result += right;
+                break;
+            case '-':
+                result -= right;
+                break;
+            case '*':
+                result *= right;
+                break;
+            default:
+                result /= right;
+                break;
+            }
         }
         return true;
     }
