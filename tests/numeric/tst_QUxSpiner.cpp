@@ -3,6 +3,7 @@
 #include <uxSceneUnitChecks.h>
 #include <uxUIUtils.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
@@ -257,26 +258,35 @@ private slots:
         QCOMPARE(values.count(), 0);
     }
 
-    void shouldStepOnceWhenAutoStepsAreOff()
+    void shouldAutoRepeatHeldArrowOnlyWhenAutoStepsAreOn_data()
     {
+        QTest::addColumn<bool>("autoSteps");
+        QTest::addColumn<int>("afterRepeats");
+        QTest::newRow("on") << true << 3;
+        QTest::newRow("off") << false << 1;
+    }
+
+    void shouldAutoRepeatHeldArrowOnlyWhenAutoStepsAreOn()
+    {
+        QFETCH(bool, autoSteps);
+        QFETCH(int, afterRepeats);
         QUxSpiner spin;
         spin.resize(120, 30);
-        spin.setAutoStepsOnMousePress(false);
-        spin.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&spin));
-        QSignalSpy values(&spin, QOverload<int>::of(&QSpinBox::valueChanged));
-
-        QTest::mousePress(&spin, Qt::LeftButton, Qt::NoModifier, upButtonRect(spin).center());
+        spin.setAutoStepsOnMousePress(autoSteps);
+        const QPoint up = upButtonRect(spin).center();
+        QTest::mousePress(&spin, Qt::LeftButton, Qt::NoModifier, up);
         QCOMPARE(spin.value(), 1);
-        // held well past the repeat delay, the arrow must not step again
-        QVERIFY(!values.wait(1000));
-        QTest::mouseRelease(&spin, Qt::LeftButton, Qt::NoModifier, upButtonRect(spin).center());
-        QCOMPARE(spin.value(), 1);
-
-        spin.setAutoStepsOnMousePress(true);
-        QTest::mousePress(&spin, Qt::LeftButton, Qt::NoModifier, upButtonRect(spin).center());
-        QTRY_VERIFY_WITH_TIMEOUT(spin.value() > 2, 5000);
-        QTest::mouseRelease(&spin, Qt::LeftButton, Qt::NoModifier, upButtonRect(spin).center());
+        // Fire the repeat timers at once instead of holding the button past their delay.
+        for (int round = 0; round < 2; ++round) {
+            const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&spin);
+            QVERIFY(!timers.isEmpty());
+            for (const auto& timer : timers) {
+                QTimerEvent tick(timer.timerId);
+                QApplication::sendEvent(&spin, &tick);
+            }
+        }
+        QCOMPARE(spin.value(), afterRepeats);
+        QTest::mouseRelease(&spin, Qt::LeftButton, Qt::NoModifier, up);
     }
 
     void shouldUpdateSceneUnitOnAllRegisteredInstances()
