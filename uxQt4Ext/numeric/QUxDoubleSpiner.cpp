@@ -27,7 +27,6 @@ namespace {
 
 enum MouseMode { LeftButtonDown = 0, MiddleButtonDrag = 1, RightButtonDown = 2, ButtonsReleased = 4 };
 
-constexpr int kFeedbackDelayMs = 800;
 constexpr double kSmallestStep = 1e-8;
 constexpr int kMaxDisplayDecimals = 323;
 
@@ -134,6 +133,7 @@ public:
     QUxDoubleSpiner::RelativeOperatorHandlingMode relativeOperatorHandlingMode = QUxDoubleSpiner::ApplyRelativeOperator;
     bool enterPressed = false;
     bool inputAcceptable = true;
+    int feedbackDelay = 800; // long enough that a half-typed entry is not flagged mid-word
     QUxDoubleSpiner::RelativeOperator currentRelativeOperator = QUxDoubleSpiner::NoRelativeOperator;
     double currentRelativeValue = 0.0;
     bool checkingInput = false;
@@ -334,6 +334,10 @@ double QUxDoubleSpiner::currentRelativeValue() const { return d->currentRelative
 
 bool QUxDoubleSpiner::isInputAcceptable() const { return d->inputAcceptable; }
 
+int QUxDoubleSpiner::inputFeedbackDelay() const { return d->feedbackDelay; }
+
+void QUxDoubleSpiner::setInputFeedbackDelay(int milliseconds) { d->feedbackDelay = qMax(0, milliseconds); }
+
 void QUxDoubleSpiner::setSingleStep(double value)
 {
     // NaN and infinite steps would turn the next drag into NaN.
@@ -412,7 +416,7 @@ void QUxDoubleSpiner::checkInput(QString text)
         d->feedbackTimer->stop();
         resetVisualInputFeedback();
     } else {
-        d->feedbackTimer->start(kFeedbackDelayMs);
+        d->feedbackTimer->start(d->feedbackDelay);
     }
 }
 

@@ -78,6 +78,10 @@ public:
     double currentRelativeValue() const;
     /// False while the typed text is neither acceptable nor a pending relative entry.
     bool isInputAcceptable() const;
+    /// How long typing must pause before unacceptable text is marked; 800 ms unless set.
+    int inputFeedbackDelay() const;
+    /// Negative delays count as 0, which marks on the next pass of the event loop.
+    void setInputFeedbackDelay(int milliseconds);
 
     /// Emits relativeOperatorApplied() for a pending relative entry and clears it.
     void emitRelativeValue();

@@ -53,6 +53,43 @@ bool isStatelessArithmetic(const QString& text)
     return true;
 }
 
+/// Whether @p text nests deeper than the evaluators are allowed to recurse; linear, stops at the first excess.
+bool nestsTooDeep(const QString& text)
+{
+    int brackets = 0;
+    int signs = 0;
+    for (const QChar c : text) {
+        switch (c.unicode()) {
+        case '(':
+        case '[':
+        case '{':
+            ++brackets;
+            signs = 0;
+            break;
+        case ')':
+        case ']':
+        case '}':
+            brackets = qMax(0, brackets - 1);
+            signs = 0;
+            break;
+        case '+':
+        case '-':
+        case '!':
+        case '~':
+            ++signs; // a chain of prefix operators nests like brackets in any parser
+            break;
+        case ' ':
+            break;
+        default:
+            signs = 0;
+            break;
+        }
+        if (brackets + signs > uxScriptEvaluator::maxNestingDepth)
+            return true;
+    }
+    return false;
+}
+
 bool readNumber(const QScriptValue& value, double& result)
 {
     if (!value.isValid() || !value.isNumber())
@@ -116,12 +153,12 @@ private:
 
     bool unary(double& result)
     {
-        QChar sign;
-        if (!takeOperator("+-", sign))
-            return primary(result);
-        if (!unary(result))
+        bool negate = false;
+        for (QChar sign; takeOperator("+-", sign);)
+            negate ^= sign == QLatin1Char('-');
+        if (!primary(result))
             return false;
-        if (sign == QLatin1Char('-'))
+        if (negate)
             result = -result;
         return true;
     }
@@ -213,6 +250,8 @@ bool evaluateWithEngine(const QString& expression, double& result, bool fresh)
 
 bool uxScriptEvaluator::evaluateNumber(const QString& expression, double& result)
 {
+    if (nestsTooDeep(expression))
+        return false;
     if (!isStatelessArithmetic(expression))
         return evaluateWithEngine(expression, result, true);
     if (s_strategy == Strategy::ArithmeticFirst && ArithmeticReader(expression).read(result))

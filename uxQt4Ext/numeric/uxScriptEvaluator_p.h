@@ -12,10 +12,17 @@
  * text gets a fresh engine so that it cannot leave state behind. The engine's
  * answer for the last stateless text is remembered, as a field asks about the
  * same text several times per keystroke and commit.
+ *
+ * A field takes whatever is pasted into it, so the work per text is bounded:
+ * text nested deeper than maxNestingDepth is refused before either evaluator
+ * sees it, which keeps both off the edge of the stack.
  */
 class uxScriptEvaluator
 {
 public:
+    /// Open brackets plus a run of prefix signs ("-(-(+1))" is 4 deep); deeper text is no number.
+    static constexpr int maxNestingDepth = 100;
+
     /// True when @p expression yields a script number (NaN and Infinity included), stored in @p result.
     static bool evaluateNumber(const QString& expression, double& result);
 
