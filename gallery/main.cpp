@@ -5,10 +5,21 @@
 #include <QTextStream>
 #include <QTimer>
 
+namespace {
+
+// The library only sets the properties; showing them is the host style's job.
+const char* const feedbackStyleSheet = R"(
+QUxDoubleSpiner[multiselect="true"], QUxSpiner[multiselect="true"] { background: #fff3c4; }
+QUxDoubleSpiner[inputAcceptable="false"] { background: #ffd6d6; color: #8b0000; }
+)";
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("uxGallery"));
+    app.setStyleSheet(QString::fromLatin1(feedbackStyleSheet));
     QLocale::setDefault(QLocale::c());
 
     QCommandLineParser parser;

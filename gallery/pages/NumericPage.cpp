@@ -12,9 +12,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -137,6 +139,18 @@ private:
         length->setDisplaySceneUnit(true);
         connectDoubleSpiner(length);
         addRow(grid, tr("Length"), length, hint(tr("try 2*(3+4) or +=5"), box));
+
+        // Starts with an unfinished entry, typed as a user would, so the mark shows at once.
+        auto* unfinished = new QUxDoubleSpiner(box);
+        unfinished->setObjectName(QStringLiteral("unfinished"));
+        unfinished->setInputFeedbackDelay(0);
+        unfinished->selectAll();
+        for (const QChar c : QStringLiteral("2*(")) {
+            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+            QCoreApplication::sendEvent(unfinished, &key);
+        }
+        unfinished->setInputFeedbackDelay(800);
+        addRow(grid, tr("Unfinished entry"), unfinished, hint(tr("marked until it reads as a number"), box));
 
         auto* offset = new QUxDoubleSpiner(box);
         offset->setObjectName(QStringLiteral("offset"));

@@ -92,8 +92,6 @@ class VectorsPage : public QWidget
 public:
     VectorsPage()
     {
-        // The host's style sheet marks components that show mixed values.
-        setStyleSheet(QStringLiteral("QUxDoubleSpiner[multiselect=\"true\"] { background: #fff3c4; }"));
         m_log = new GalleryLog(this);
         m_log->setMaximumHeight(110);
         auto* grid = new QGridLayout(this);
