@@ -1,5 +1,6 @@
 # The README's two commands: `make gallery` and `make test`. Both install what
-# is missing first. `make bench` prints the benchmark table.
+# is missing first. `make bench` prints the benchmark table. Each builds what
+# it runs: the library and the gallery; all but the benchmarks; the benchmarks.
 BUILD ?= build
 JOBS ?= $(shell nproc)
 BUILD_TYPE ?= RelWithDebInfo
@@ -27,10 +28,12 @@ build: configure
 test: build
 	@scripts/run-tests $(BUILD) $(JOBS)
 
-gallery: build
+gallery: configure
+	cmake --build $(BUILD) -j $(JOBS) --target uxGallery
 	@scripts/run-gallery $(BUILD)
 
-bench: build
+bench: configure
+	cmake --build $(BUILD) -j $(JOBS) --target benchmarks
 	@scripts/run-bench $(BUILD)
 
 format:
