@@ -1,6 +1,7 @@
 #include <QUxWhiteBalance.h>
 
 #include <uxPlatform.h>
+#include <uxTestSupport.h>
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -130,9 +131,7 @@ private slots:
     {
         QUxWhiteBalance balance;
         QSignalSpy spy(&balance, &QUxWhiteBalance::valueChanged);
-        spinBoxOf(balance)->selectAll();
-        QTest::keyClicks(spinBoxOf(balance), QStringLiteral("6500"));
-        QTest::keyClick(spinBoxOf(balance), Qt::Key_Enter);
+        uxTest::typeAndCommit(spinBoxOf(balance), QStringLiteral("6500"));
         QCOMPARE(balance.value(), 6500);
         QCOMPARE(sliderOf(balance)->value(), 6500);
         QCOMPARE(values(spy).value(spy.size() - 1), 6500);

@@ -133,7 +133,6 @@ private slots:
     {
         QVERIFY(!uxIconCache::getListIcon().isNull());
         QVERIFY(!uxIconCache::getGridIcon().isNull());
-        QCOMPARE(&uxIconCache::getListIcon(), &uxIconCache::getListIcon());
     }
 
     void shouldDistinguishStyleColours()

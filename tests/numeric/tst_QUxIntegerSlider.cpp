@@ -1,6 +1,7 @@
 #include <QUxIntegerSlider.h>
 
 #include <uxPlatform.h>
+#include <uxTestSupport.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,15 +17,6 @@ QLabel* prefixLabel(QUxIntegerSlider& slider) { return qobject_cast<QLabel*>(wid
 QSlider* innerSlider(QUxIntegerSlider& slider) { return qobject_cast<QSlider*>(widgetAt(slider, 1)); }
 QLabel* specialSuffixLabel(QUxIntegerSlider& slider) { return qobject_cast<QLabel*>(widgetAt(slider, 2)); }
 QSpinBox* innerSpinner(QUxIntegerSlider& slider) { return qobject_cast<QSpinBox*>(widgetAt(slider, 3)); }
-
-void typeIntoSpinner(QUxIntegerSlider& slider, const QString& text)
-{
-    QSpinBox* spinner = innerSpinner(slider);
-    spinner->setFocus();
-    spinner->selectAll();
-    QTest::keyClicks(spinner, text);
-    QTest::keyClick(spinner, Qt::Key_Return);
-}
 
 } // namespace
 
@@ -141,7 +133,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&slider));
         QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
 
-        typeIntoSpinner(slider, QStringLiteral("50"));
+        uxTest::typeAndCommit(innerSpinner(slider), QStringLiteral("50"));
         QCOMPARE(slider.value(), 50);
         QCOMPARE(innerSlider(slider)->value(), 10);
         QCOMPARE(spy.count(), 1);

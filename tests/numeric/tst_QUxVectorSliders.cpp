@@ -8,29 +8,13 @@
 #include <QUxVec3SliderControl.h>
 #include <QUxVec4SliderControl.h>
 
+#include <uxTestSupport.h>
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
 
 namespace {
-// The building steps are protected members that a subclass may call again or reuse.
-struct SliderSteps : QUxIntVector3DSlider
-{
-    using QUxIntVectorSliderBase::createLabels, QUxIntVectorSliderBase::createLayout,
-        QUxIntVectorSliderBase::createSliderConnections, QUxIntVectorSliderBase::createSliders,
-        QUxIntVectorSliderBase::init;
-};
-struct SpinerSteps : QUxIntVector3DSpiner
-{
-    using QUxIntVectorSpinerBase::createSpinerConnections, QUxIntVectorSpinerBase::createSpiners,
-        QUxIntVectorSpinerBase::init;
-};
-struct SliderVectorSteps : QUxVec3SliderControl
-{
-    using QUxSliderVectorControl::createConnections, QUxSliderVectorControl::createLabel,
-        QUxSliderVectorControl::createLayout, QUxSliderVectorControl::createSlider, QUxSliderVectorControl::init;
-};
-
 /// Focuses the field inside @p component and types @p text without committing it.
 QLineEdit* typeWithoutCommit(QWidget* window, QWidget* component, const QString& text)
 {
@@ -96,10 +80,7 @@ private slots:
         control.show();
         control.setValue(QUxIntVector2D(640, 480));
         QSignalSpy changed(&control, &QUxIntVector2DSpiner::changed);
-        auto* edit = control.spiner(1)->findChild<QLineEdit*>();
-        edit->selectAll();
-        QTest::keyClicks(edit, QStringLiteral("720"));
-        QTest::keyClick(edit, Qt::Key_Return);
+        uxTest::typeAndCommit(control.spiner(1), QStringLiteral("720"));
         QCOMPARE(changed.count(), 1);
         QCOMPARE(changed.at(0).at(0).value<QUxIntVector2D>(), QUxIntVector2D(640, 720));
     }
@@ -190,18 +171,12 @@ private slots:
     void shouldBuildAllComponentsForEverySize()
     {
         QUxVec2SliderControl two;
-        QUxVec4SliderControl four;
+        QUxIntVector4DSlider four;
+        QVERIFY(two.isValid() && four.isValid() && QUxIntVector2DSpiner().isValid());
         QCOMPARE(two.componentCount(), 2);
         QCOMPARE(four.componentCount(), 4);
-        QVERIFY(two.isValid());
-        QVERIFY(four.isValid());
-        QVERIFY(!two.slider(2));
-        QUxIntVector2DSpiner spiners;
-        QUxIntVector4DSlider sliders;
-        QVERIFY(spiners.isValid());
-        QCOMPARE(sliders.componentCount(), 4);
-        QVERIFY(sliders.slider(3));
-        QVERIFY(!sliders.slider(4));
+        QVERIFY(two.slider(1) && !two.slider(2));
+        QVERIFY(four.slider(3) && !four.slider(4));
     }
 
     void shouldDeliverIntegerVectorThroughQueuedConnection()

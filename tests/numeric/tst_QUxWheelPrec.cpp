@@ -3,6 +3,7 @@
 #include <QUxWheelPrec.h>
 
 #include <uxPlatform.h>
+#include <uxTestSupport.h>
 
 #include <QApplication>
 #include <QLayout>
@@ -14,23 +15,7 @@ namespace {
 
 using Operator = QUxDoubleSpiner::RelativeOperator;
 
-void dragWheel(QUxWheel* wheel, int fromX, int toX)
-{
-    QTest::mousePress(wheel, Qt::LeftButton, Qt::NoModifier, QPoint(fromX, 5));
-    // Straight to the wheel: QTest moves the cursor, which reaches no widget offscreen.
-    const QPoint to(toX, 5);
-    QMouseEvent move(QEvent::MouseMove, to, wheel->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(wheel, &move);
-    QTest::mouseRelease(wheel, Qt::LeftButton, Qt::NoModifier, to);
-}
-
-void turnMouseWheel(QWidget* widget, int delta)
-{
-    const QPointF pos(widget->width() / 2.0, widget->height() / 2.0);
-    QWheelEvent event(pos, widget->mapToGlobal(pos.toPoint()), QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(widget, &event);
-}
+void dragWheel(QUxWheel* wheel, int fromX, int toX) { uxTest::drag(wheel, QPoint(fromX, 5), QPoint(toX, 5)); }
 
 /// A laid-out control whose wheel has a real width.
 struct Fixture
@@ -121,9 +106,7 @@ private slots:
         QVERIFY(relative.isValid());
         QSignalSpy changed(&control, &QUxWheelPrec::valueChanged);
         QSignalSpy finished(&control, &QUxWheelPrec::editingFinished);
-        control.spiner()->selectAll();
-        QTest::keyClicks(control.spiner(), text);
-        QTest::keyClick(control.spiner(), Qt::Key_Return);
+        uxTest::typeAndCommit(control.spiner(), text);
         QCOMPARE(relative.count(), op < 0 ? 0 : 1);
         if (op >= 0) {
             QCOMPARE(int(relative.at(0).at(0).value<Operator>()), op);
@@ -282,9 +265,9 @@ private slots:
         QUxWheelPrec& control = f.control;
         control.setSingleStep(0.25);
         control.setValue(1.0);
-        turnMouseWheel(control.wheel(), 120);
+        uxTest::turnWheel(control.wheel(), 120);
         QCOMPARE(control.value(), 1.5);
-        turnMouseWheel(control.wheel(), -240);
+        uxTest::turnWheel(control.wheel(), -240);
         QCOMPARE(control.value(), 0.5);
 
         // In relative mode the turn is reported as an addition instead.
@@ -292,7 +275,7 @@ private slots:
         control.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
         QSignalSpy relative(&control, &QUxWheelPrec::relativeOperatorApplied);
         QSignalSpy changed(&control, &QUxWheelPrec::valueChanged);
-        turnMouseWheel(control.wheel(), 120);
+        uxTest::turnWheel(control.wheel(), 120);
         QCOMPARE(relative.count(), 1);
         QCOMPARE(relative.at(0).at(0).value<Operator>(), QUxDoubleSpiner::RelativeAdd);
         QCOMPARE(relative.at(0).at(1).toDouble(), 1.0);

@@ -189,8 +189,8 @@ private slots:
     void shouldMapWhiteToUnitXyzWithEqualEnergyMatrix()
     {
         VERIFY_NEAR3(get(QUxColor(1.f, 1.f, 1.f), &QUxColor::getXYZ_E), V(1, 1, 1), 1e-6f);
-        const auto& m = QUxColor::RGBtoXYZ_mat;
-        QCOMPARE(convert(&QUxColor::RGBtoXYZ_E, {1, 0, 0}), V(m[0][0], m[1][0], m[2][0]));
+        // The first column of the published equal-energy matrix.
+        VERIFY_NEAR3(convert(&QUxColor::RGBtoXYZ_E, {1, 0, 0}), V(0.43849581f, 0.22285376f, 0.01732081f), 1e-7f);
     }
 
     void shouldReplaceSingleRgbChannelOrLabCoordinate()
@@ -339,8 +339,6 @@ private slots:
         const QUxColor nan = fromHsv({std::nanf(""), 0, 0});
         QVERIFY(!(nan == nan));
         QVERIFY(nan != nan);
-        QUxColor moved = std::move(blackB);
-        QCOMPARE(moved.getHue(), 200.f);
     }
 
     void shouldStartWithDocumentedClassWideSettings()
