@@ -1,6 +1,7 @@
 // Typing into a numeric field: the validator runs on the text, then the
 // commit (Enter) interprets it. Ours evaluates arithmetic and relative
 // entries; the anchor is a stock QDoubleSpinBox taking a plain number.
+// "ours plain 14" commits that same plain number: the like-for-like row.
 // "ours shared engine" sends every text through the one kept script engine,
 // "ours fresh engine" pays for a script engine per commit.
 #include <QUxDoubleSpiner.h>
@@ -39,11 +40,11 @@ private slots:
     void validateAndCommitRelative();
 
 private:
-    void addRows(const QString& oursText);
+    void addRows(const QString& oursText, bool withPlainRow);
     void run();
 };
 
-void bench_QUxDoubleSpiner::addRows(const QString& oursText)
+void bench_QUxDoubleSpiner::addRows(const QString& oursText, bool withPlainRow)
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("stock");
@@ -52,6 +53,8 @@ void bench_QUxDoubleSpiner::addRows(const QString& oursText)
     QTest::newRow("ours") << oursText << false << S::ArithmeticFirst;
     QTest::newRow("ours shared engine") << oursText << false << S::SharedEngine;
     QTest::newRow("ours fresh engine") << oursText << false << S::FreshEngine;
+    if (withPlainRow)
+        QTest::newRow("ours plain 14") << QStringLiteral("14") << false << S::ArithmeticFirst;
     QTest::newRow("anchor") << QStringLiteral("14") << true << S::ArithmeticFirst;
 }
 
@@ -80,11 +83,11 @@ void bench_QUxDoubleSpiner::run()
     uxScriptEvaluator::setStrategy(uxScriptEvaluator::Strategy::ArithmeticFirst);
 }
 
-void bench_QUxDoubleSpiner::validateAndCommitExpression_data() { addRows(QStringLiteral("2*(3+4)")); }
+void bench_QUxDoubleSpiner::validateAndCommitExpression_data() { addRows(QStringLiteral("2*(3+4)"), true); }
 
 void bench_QUxDoubleSpiner::validateAndCommitExpression() { run(); }
 
-void bench_QUxDoubleSpiner::validateAndCommitRelative_data() { addRows(QStringLiteral("+=1.5")); }
+void bench_QUxDoubleSpiner::validateAndCommitRelative_data() { addRows(QStringLiteral("+=1.5"), false); }
 
 void bench_QUxDoubleSpiner::validateAndCommitRelative() { run(); }
 
