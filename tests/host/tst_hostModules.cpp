@@ -26,7 +26,6 @@ private slots:
         QTest::addColumn<int>("large");
         QTest::newRow("1.0") << 1.0 << 20 << 32;
         QTest::newRow("1.5") << 1.5 << 30 << 48;
-        QTest::newRow("2.0") << 2.0 << 40 << 64;
     }
 
     void shouldScaleIconSizesWithDpi()
