@@ -4,6 +4,7 @@
 #include <QUxColorField.h>
 #include <QUxDoubleSpiner.h>
 #include <QUxVec3Control.h>
+#include <uxPlatform.h>
 #include <uxSignalBlocker.h>
 
 #include <QApplication>
@@ -75,6 +76,10 @@ int main(int argc, char* argv[])
     const QImage plane = field.grab().toImage();
     check(plane.size() == QSize(64, 64), "the colour field grabbed at the wrong size");
     check(coloursOnDiagonal(plane) > 8, "the colour field painted no picking plane");
+
+    // The host modules come with ux::uxQt4Ext; a 20-pixel small icon at scale 2.
+    uxPlatform::setDpiScale(2.0, 2.0);
+    check(uxPlatform::getSmallIconSizeX() == 40, "the platform module did not scale its icon size");
 
     return failures == 0 ? 0 : 1;
 }
