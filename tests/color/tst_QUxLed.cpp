@@ -61,17 +61,30 @@ private slots:
     {
         QUxLed led;
         QCOMPARE(led.value(), false);
-        QCOMPARE(led.onColor(), QUxLed::RED);
-        QCOMPARE(led.offColor(), QUxLed::GREY);
-        QCOMPARE(led.onShape(), QUxLed::CIRCLE);
-        QCOMPARE(led.offShape(), QUxLed::CIRCLE);
+        QCOMPARE((QList<int>{led.onColor(), led.offColor(), led.onShape(), led.offShape()}),
+                 (QList<int>{QUxLed::RED, QUxLed::GREY, QUxLed::CIRCLE, QUxLed::CIRCLE}));
         led.resize(20, 20);
         QCOMPARE(paintLed(led), renderResource(QStringLiteral(":/resources/circle_grey.svg"), led.size()));
-        const QList<int> colors{QUxLed::RED,    QUxLed::GREEN, QUxLed::YELLOW, QUxLed::GREY, QUxLed::ORANGE,
-                                QUxLed::PURPLE, QUxLed::BLUE,  QUxLed::BLACK,  QUxLed::WHITE};
-        QCOMPARE(colors, (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
-        const QList<int> shapes{QUxLed::CIRCLE, QUxLed::SQUARE, QUxLed::TRIANGLE, QUxLed::ROUNDED, QUxLed::TRIANGLE_R};
-        QCOMPARE(shapes, (QList<int>{0, 1, 2, 3, 4}));
+        QCOMPARE((QList<int>{QUxLed::RED, QUxLed::GREEN, QUxLed::YELLOW, QUxLed::GREY, QUxLed::ORANGE, QUxLed::PURPLE,
+                             QUxLed::BLUE, QUxLed::BLACK, QUxLed::WHITE, QUxLed::CIRCLE, QUxLed::SQUARE,
+                             QUxLed::TRIANGLE, QUxLed::ROUNDED, QUxLed::TRIANGLE_R}),
+                 (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 0, 1, 2, 3, 4}));
+    }
+
+    void shouldConnectSlotsByText()
+    {
+        QCheckBox box;
+        QUxLed led;
+        QVERIFY(QObject::connect(&box, SIGNAL(toggled(bool)), &led, SLOT(setValue(bool))));
+        box.setChecked(true);
+        QCOMPARE(led.value(), true);
+        for (const char* slot : {"setValue(bool)", "setOnColor(ledColor)", "setOffColor(ledColor)",
+                                 "setOnShape(ledShape)", "setOffShape(ledShape)", "toggleValue()"})
+            QVERIFY2(led.metaObject()->indexOfSlot(slot) >= 0, slot);
+        QVERIFY(led.setProperty("onColor", QVariant::fromValue(QUxLed::BLUE)));
+        QVERIFY(led.setProperty("offShape", QVariant::fromValue(QUxLed::TRIANGLE_R)));
+        QCOMPARE(led.onColor(), QUxLed::BLUE);
+        QCOMPARE(led.offShape(), QUxLed::TRIANGLE_R);
     }
 
     void shouldShipAndPaintEveryMarker_data()
@@ -111,38 +124,17 @@ private slots:
         QCOMPARE(led.value(), true);
         QCOMPARE(paintLed(led), on);
         led.toggleValue();
-        QCOMPARE(led.value(), false);
         QCOMPARE(paintLed(led), off);
-        led.setValue(true);
-        QCOMPARE(paintLed(led), on);
     }
 
     void shouldShipDistinctMarkers()
     {
         QSet<QByteArray> seen; // every file looks different from all the others
-        for (int shape = 0; shape < shapeNames.size(); ++shape) {
-            for (int color = 0; color < colorNames.size(); ++color) {
-                const QImage image = renderResource(resourcePath(shape, color), QSize(24, 24));
-                seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes())));
-            }
+        for (int i = 0; i < 45; ++i) {
+            const QImage image = renderResource(resourcePath(i / 9, i % 9), QSize(24, 24));
+            seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes())));
         }
         QCOMPARE(seen.size(), 45);
-    }
-
-    void shouldConnectSlotsByText()
-    {
-        QCheckBox box;
-        QUxLed led;
-        QVERIFY(QObject::connect(&box, SIGNAL(toggled(bool)), &led, SLOT(setValue(bool))));
-        box.setChecked(true);
-        QCOMPARE(led.value(), true);
-        for (const char* slot : {"setValue(bool)", "setOnColor(ledColor)", "setOffColor(ledColor)",
-                                 "setOnShape(ledShape)", "setOffShape(ledShape)", "toggleValue()"})
-            QVERIFY2(led.metaObject()->indexOfSlot(slot) >= 0, slot);
-        QVERIFY(led.setProperty("onColor", QVariant::fromValue(QUxLed::BLUE)));
-        QVERIFY(led.setProperty("offShape", QVariant::fromValue(QUxLed::TRIANGLE_R)));
-        QCOMPARE(led.onColor(), QUxLed::BLUE);
-        QCOMPARE(led.offShape(), QUxLed::TRIANGLE_R);
     }
 };
 

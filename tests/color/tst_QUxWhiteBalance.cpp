@@ -87,20 +87,19 @@ private slots:
         QTest::addColumn<int>("expected");
         QTest::addColumn<int>("sliderValue");
         QTest::addColumn<QList<int>>("emitted");
+        const auto row = [](const char* name, int start, int min, int max, int requested, int expected, int slider,
+                            const QList<int>& emitted) {
+            QTest::newRow(name) << start << min << max << requested << expected << slider << emitted;
+        };
         // The spin box reports what it holds, then the control repeats the request as it came.
-        QTest::newRow("inside") << 1000 << 1000 << 15000 << 6500 << 6500 << 6500 << QList<int>{6500, 6500};
-        QTest::newRow("unchanged") << 4200 << 1000 << 15000 << 4200 << 4200 << 4200 << QList<int>{};
-        QTest::newRow("above the maximum")
-            << 1000 << 1000 << 15000 << 30000 << 15000 << 15000 << QList<int>{15000, 30000};
-        QTest::newRow("below the minimum, already there")
-            << 1000 << 1000 << 15000 << 10 << 1000 << 1000 << QList<int>{10};
+        row("inside", 1000, 1000, 15000, 6500, 6500, 6500, {6500, 6500});
+        row("unchanged", 4200, 1000, 15000, 4200, 4200, 4200, {});
+        row("above the maximum", 1000, 1000, 15000, 30000, 15000, 15000, {15000, 30000});
+        row("below the minimum, already there", 1000, 1000, 15000, 10, 1000, 1000, {10});
         // The slider keeps its 1000 to 15000 range whatever limits the spin box gets.
-        QTest::newRow("beyond the slider, from the middle")
-            << 5000 << 1000 << 20000 << 20000 << 20000 << 15000 << QList<int>{20000, 20000};
-        QTest::newRow("beyond the slider, from its end")
-            << 15000 << 1000 << 20000 << 18000 << 18000 << 15000 << QList<int>{18000, 18000};
-        QTest::newRow("below the slider, from the middle")
-            << 5000 << 500 << 15000 << 500 << 500 << 1000 << QList<int>{500, 500};
+        row("beyond the slider, from the middle", 5000, 1000, 20000, 20000, 20000, 15000, {20000, 20000});
+        row("beyond the slider, from its end", 15000, 1000, 20000, 18000, 18000, 15000, {18000, 18000});
+        row("below the slider, from the middle", 5000, 500, 15000, 500, 500, 1000, {500, 500});
     }
 
     void shouldReportProgrammaticChanges()
@@ -121,9 +120,9 @@ private slots:
         balance.setValue(requested);
 
         QCOMPARE(balance.value(), expected);
-        QCOMPARE(sliderOf(balance)->value(), sliderValue);
-        QCOMPARE(sliderOf(balance)->minimum(), 1000);
-        QCOMPARE(sliderOf(balance)->maximum(), 15000);
+        const QSlider* slider = sliderOf(balance);
+        QCOMPARE((QList<int>{slider->value(), slider->minimum(), slider->maximum()}),
+                 (QList<int>{sliderValue, 1000, 15000}));
         QCOMPARE(values(spy), emitted);
     }
 

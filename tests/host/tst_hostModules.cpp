@@ -100,11 +100,9 @@ private slots:
         const QImage image = uxIconManager::get(name.toUtf8().constData()).toImage();
         QVERIFY(!image.isNull());
         QVERIFY(!uxIconManager::getIcon(name.toStdString(), "").isNull());
-        // Something is drawn: not every pixel is transparent.
-        bool painted = false;
-        for (int i = 0; i < image.width() * image.height() && !painted; ++i)
-            painted = qAlpha(image.pixel(i % image.width(), i / image.width())) > 0;
-        QVERIFY(painted);
+        QImage blank(image.size(), image.format());
+        blank.fill(Qt::transparent);
+        QVERIFY(image != blank); // something is drawn
     }
 
     void shouldRenderIconsAtRequestedSizeOrGiveNull()

