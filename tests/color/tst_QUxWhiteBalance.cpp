@@ -9,6 +9,8 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include <tuple>
+
 namespace {
 
 QSlider* sliderOf(const QUxWhiteBalance& balance) { return balance.findChild<QSlider*>(); }
@@ -22,7 +24,12 @@ QList<int> values(const QSignalSpy& spy)
     return result;
 }
 
+/// Value, minimum and maximum before; value requested; value, slider value and signals after.
+using Change = std::tuple<int, int, int, int, int, int, QList<int>>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Change)
 
 class tst_QUxWhiteBalance : public QObject
 {
@@ -80,37 +87,24 @@ private slots:
 
     void shouldReportProgrammaticChanges_data()
     {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<int>("requested");
-        QTest::addColumn<int>("expected");
-        QTest::addColumn<int>("sliderValue");
-        QTest::addColumn<QList<int>>("emitted");
-        const auto row = [](const char* name, int start, int min, int max, int requested, int expected, int slider,
-                            const QList<int>& emitted) {
-            QTest::newRow(name) << start << min << max << requested << expected << slider << emitted;
-        };
+        QTest::addColumn<Change>("change");
         // The spin box reports what it holds, then the control repeats the request as it came.
-        row("inside", 1000, 1000, 15000, 6500, 6500, 6500, {6500, 6500});
-        row("unchanged", 4200, 1000, 15000, 4200, 4200, 4200, {});
-        row("above the maximum", 1000, 1000, 15000, 30000, 15000, 15000, {15000, 30000});
-        row("below the minimum, already there", 1000, 1000, 15000, 10, 1000, 1000, {10});
+        QTest::newRow("inside") << Change{1000, 1000, 15000, 6500, 6500, 6500, {6500, 6500}};
+        QTest::newRow("unchanged") << Change{4200, 1000, 15000, 4200, 4200, 4200, {}};
+        QTest::newRow("above the maximum") << Change{1000, 1000, 15000, 30000, 15000, 15000, {15000, 30000}};
+        QTest::newRow("below the minimum, already there") << Change{1000, 1000, 15000, 10, 1000, 1000, {10}};
         // The slider keeps its 1000 to 15000 range whatever limits the spin box gets.
-        row("beyond the slider, from the middle", 5000, 1000, 20000, 20000, 20000, 15000, {20000, 20000});
-        row("beyond the slider, from its end", 15000, 1000, 20000, 18000, 18000, 15000, {18000, 18000});
-        row("below the slider, from the middle", 5000, 500, 15000, 500, 500, 1000, {500, 500});
+        QTest::newRow("beyond the slider, from the middle")
+            << Change{5000, 1000, 20000, 20000, 20000, 15000, {20000, 20000}};
+        QTest::newRow("beyond the slider, from its end")
+            << Change{15000, 1000, 20000, 18000, 18000, 15000, {18000, 18000}};
+        QTest::newRow("below the slider, from the middle") << Change{5000, 500, 15000, 500, 500, 1000, {500, 500}};
     }
 
     void shouldReportProgrammaticChanges()
     {
-        QFETCH(int, start);
-        QFETCH(int, minimum);
-        QFETCH(int, maximum);
-        QFETCH(int, requested);
-        QFETCH(int, expected);
-        QFETCH(int, sliderValue);
-        QFETCH(QList<int>, emitted);
+        QFETCH(Change, change);
+        const auto& [start, minimum, maximum, requested, expected, sliderValue, emitted] = change;
         QUxWhiteBalance balance;
         balance.setValue(start);
         balance.setMinimum(minimum);

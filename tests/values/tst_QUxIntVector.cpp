@@ -12,10 +12,8 @@ bool comparesComponentWise(const Vector& a, size_t components)
 {
     for (size_t i = 0; i < components; ++i) {
         Vector b(a);
-        if (!(a == b) || a != b)
-            return false;
         b[i] += 1;
-        if (a == b || !(a != b))
+        if (!(a == Vector(a)) || a != Vector(a) || a == b || !(a != b))
             return false;
     }
     return true;
