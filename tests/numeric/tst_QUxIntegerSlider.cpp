@@ -32,14 +32,16 @@ private slots:
     {
         QTest::addColumn<double>("scaleX");
         QTest::addColumn<double>("scaleY");
-        QTest::newRow("1") << 1.0 << 1.0;
-        QTest::newRow("1.5 x 2") << 1.5 << 2.0;
+        QTest::addColumn<QList<QSize>>("sizes"); // slider minimum (its width not scaled), spin box minimum and maximum
+        QTest::newRow("1") << 1.0 << 1.0 << QList<QSize>{{32, 16}, {62, 16}, {62, 32}};
+        QTest::newRow("1.5 x 2") << 1.5 << 2.0 << QList<QSize>{{32, 32}, {93, 32}, {93, 64}};
     }
 
     void shouldLayOutAndSizeChildrenByScale()
     {
         QFETCH(double, scaleX);
         QFETCH(double, scaleY);
+        QFETCH(QList<QSize>, sizes);
         uxPlatform::setDpiScale(scaleX, scaleY);
         QUxIntegerSlider slider(nullptr, "samples");
         QCOMPARE(slider.objectName(), QStringLiteral("samples"));
@@ -52,20 +54,17 @@ private slots:
         QCOMPARE(layout->spacing(), 6);
 
         const QSlider* handle = innerSlider(slider);
-        QCOMPARE(handle->orientation(), Qt::Horizontal);
-        QCOMPARE(handle->sizePolicy(), QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred));
-        QCOMPARE(handle->minimumSize(), QSize(32, int(16 * scaleY))); // the width is not scaled
-        QCOMPARE(handle->maximumHeight(), int(32 * scaleY));
-        QCOMPARE(handle->focusPolicy(), Qt::ClickFocus);
-        QCOMPARE(handle->tickPosition(), QSlider::NoTicks);
-
         const QSpinBox* spinner = innerSpinner(slider);
+        QCOMPARE((QList<QSize>{handle->minimumSize(), spinner->minimumSize(), spinner->maximumSize()}), sizes);
+        QCOMPARE(handle->maximumHeight(), spinner->maximumHeight());
+        QCOMPARE(handle->sizePolicy(), QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred));
         QCOMPARE(spinner->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred));
-        QCOMPARE(spinner->minimumSize(), QSize(int(62 * scaleX), int(16 * scaleY)));
-        QCOMPARE(spinner->maximumSize(), QSize(int(62 * scaleX), int(32 * scaleY)));
+        QCOMPARE(std::make_pair(handle->focusPolicy(), spinner->focusPolicy()),
+                 std::make_pair(Qt::ClickFocus, Qt::StrongFocus));
+        QCOMPARE(handle->orientation(), Qt::Horizontal);
+        QCOMPARE(handle->tickPosition(), QSlider::NoTicks);
         QVERIFY(spinner->alignment() & Qt::AlignRight);
         QCOMPARE(spinner->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
-        QCOMPARE(spinner->focusPolicy(), Qt::StrongFocus);
     }
 
     void shouldShowLabelsOnlyWithText_data()
@@ -87,17 +86,15 @@ private slots:
         slider.setSpecialSuffix(specialSuffix);
         slider.show();
 
-        QCOMPARE(slider.prefix(), prefix);
-        QCOMPARE(slider.specialSuffix(), specialSuffix);
-        QCOMPARE(prefixLabel(slider)->text(), prefix);
-        QCOMPARE(specialSuffixLabel(slider)->text(), specialSuffix);
+        QCOMPARE((QStringList{slider.prefix(), prefixLabel(slider)->text()}), (QStringList{prefix, prefix}));
+        QCOMPARE((QStringList{slider.specialSuffix(), specialSuffixLabel(slider)->text()}),
+                 (QStringList{specialSuffix, specialSuffix}));
         QCOMPARE(prefixLabel(slider)->isVisible(), !prefix.isEmpty());
         QCOMPARE(specialSuffixLabel(slider)->isVisible(), !specialSuffix.isEmpty());
 
         slider.setPrefix(QString());
         slider.setSpecialSuffix(QString());
-        QVERIFY(!prefixLabel(slider)->isVisible());
-        QVERIFY(!specialSuffixLabel(slider)->isVisible());
+        QVERIFY(!prefixLabel(slider)->isVisible() && !specialSuffixLabel(slider)->isVisible());
     }
 
     void shouldShowValueWithSuffixInSpinnerAndEmitOnlyOnChange()
@@ -108,19 +105,15 @@ private slots:
         QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
         slider.setValue(12);
         slider.setValue(12);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toInt(), 12);
-        QCOMPARE(slider.value(), 12);
-        QCOMPARE(innerSlider(slider)->value(), 12);
+        QCOMPARE(spy, QList<QVariantList>{{12}});
+        QCOMPARE(std::make_pair(slider.value(), innerSlider(slider)->value()), std::make_pair(12, 12));
         QCOMPARE(innerSpinner(slider)->text(), QStringLiteral("12 px"));
         QVERIFY(!specialSuffixLabel(slider)->isVisibleTo(&slider)); // the suffix is no label
 
         // the spin box follows the handle
         innerSlider(slider)->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        QCOMPARE(innerSpinner(slider)->value(), 22);
-        QCOMPARE(slider.value(), 22);
-        QCOMPARE(spy.count(), 2);
-        QCOMPARE(spy.at(1).at(0).toInt(), 22);
+        QCOMPARE(std::make_pair(slider.value(), innerSpinner(slider)->value()), std::make_pair(22, 22));
+        QCOMPARE(spy, QList<QVariantList>({{12}, {22}}));
     }
 
     void shouldKeepTypedValueBeyondTravelWithinHardRange()
@@ -134,33 +127,26 @@ private slots:
         QSignalSpy spy(&slider, &QUxIntegerSlider::valueChanged);
 
         uxTest::typeAndCommit(innerSpinner(slider), QStringLiteral("50"));
-        QCOMPARE(slider.value(), 50);
-        QCOMPARE(innerSlider(slider)->value(), 10);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toInt(), 50);
+        QCOMPARE(std::make_pair(slider.value(), innerSlider(slider)->value()), std::make_pair(50, 10));
 
         slider.setValue(500);
         QCOMPARE(slider.value(), 100);
-        QCOMPARE(spy.last().at(0).toInt(), 100);
-        QCOMPARE(slider.maximum(), 10);
-        QCOMPARE(slider.hardMaximum(), 100);
+        QCOMPARE(spy, QList<QVariantList>({{50}, {100}}));
+        QCOMPARE(std::make_pair(slider.maximum(), slider.hardMaximum()), std::make_pair(10, 100));
     }
 
     void shouldMoveBothRangesWithSoftLimits()
     {
         QUxIntegerSlider slider;
         slider.setHardMinimum(-50);
-        QCOMPARE(slider.hardMinimum(), -50);
-        QCOMPARE(slider.minimum(), 0);
+        QCOMPARE(std::make_pair(slider.minimum(), slider.hardMinimum()), std::make_pair(0, -50));
 
         slider.setMinimum(5);
         slider.setMaximum(20);
-        QCOMPARE(slider.minimum(), 5);
-        QCOMPARE(slider.maximum(), 20);
-        QCOMPARE(slider.hardMinimum(), 5);
-        QCOMPARE(slider.hardMaximum(), 20);
-        QCOMPARE(innerSlider(slider)->minimum(), 5);
-        QCOMPARE(innerSlider(slider)->maximum(), 20);
+        // soft, hard and the handle's range
+        QCOMPARE((QList<int>{slider.minimum(), slider.maximum(), slider.hardMinimum(), slider.hardMaximum(),
+                             innerSlider(slider)->minimum(), innerSlider(slider)->maximum()}),
+                 (QList<int>{5, 20, 5, 20, 5, 20}));
         QCOMPARE(slider.value(), 5); // pulled into the new range
     }
 };

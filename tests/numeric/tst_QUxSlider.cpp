@@ -6,9 +6,10 @@
 
 #include <QGridLayout>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QSlider>
 #include <QtTest>
+
+#include <functional>
 
 namespace {
 
@@ -32,7 +33,11 @@ public:
     QStringList entries;
 };
 
+using SliderAction = std::function<void(QUxSlider&)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(SliderAction)
 
 class tst_QUxSlider : public QObject
 {
@@ -44,23 +49,21 @@ private slots:
 
     void shouldDeclareSignalsAndSlotsByText()
     {
-        QByteArrayList signalList, publicSlots;
-        const QMetaObject* meta = &QUxSlider::staticMetaObject;
-        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-            const QMetaMethod method = meta->method(i);
-            if (method.methodType() == QMetaMethod::Signal)
-                signalList << method.methodSignature();
-            else if (method.methodType() == QMetaMethod::Slot && method.access() == QMetaMethod::Public)
-                publicSlots << method.methodSignature();
-        }
+        QByteArrayList signalList;
+        const QMetaObject& meta = QUxSlider::staticMetaObject;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+            if (meta.method(i).methodType() == QMetaMethod::Signal)
+                signalList << meta.method(i).methodSignature();
         QCOMPARE(signalList,
                  QByteArrayList({"valueChanged(double)", "sliderPressed()", "sliderMoved(double)", "sliderReleased()",
                                  "changedReturn()", "relativeOperatorApplied(RelativeOperator,double)"}));
         for (const char* slot :
              {"setMinimum(double)", "setMaximum(double)", "setHardMinimum(double)", "setHardMaximum(double)",
               "setLineStep(double)", "setPageStep(double)", "setValue(double)", "onValueChanged(int)",
-              "onSliderPressed()", "onSliderMoved(int)", "onSliderReleased()"})
-            QVERIFY2(publicSlots.contains(slot), slot);
+              "onSliderPressed()", "onSliderMoved(int)", "onSliderReleased()"}) {
+            const int index = meta.indexOfSlot(slot);
+            QVERIFY2(index >= 0 && meta.method(index).access() == QMetaMethod::Public, slot);
+        }
     }
 
     void shouldSizeSliderAndSpinnerByScale_data()
@@ -68,8 +71,11 @@ private slots:
         QTest::addColumn<double>("scaleX");
         QTest::addColumn<double>("scaleY");
         QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::newRow("horizontal at 1") << 1.0 << 1.0 << Qt::Horizontal;
-        QTest::newRow("vertical at 2 x 1.5") << 2.0 << 1.5 << Qt::Vertical;
+        QTest::addColumn<QList<QSize>>("sizes"); // slider minimum, spin box minimum and maximum, size hint
+        QTest::newRow("horizontal at 1") << 1.0 << 1.0 << Qt::Horizontal
+                                         << QList<QSize>{{32, 16}, {62, 16}, {62, 32}, {130, 20}};
+        QTest::newRow("vertical at 2 x 1.5")
+            << 2.0 << 1.5 << Qt::Vertical << QList<QSize>{{64, 24}, {124, 24}, {124, 48}, {260, 30}};
     }
 
     void shouldSizeSliderAndSpinnerByScale()
@@ -77,34 +83,23 @@ private slots:
         QFETCH(double, scaleX);
         QFETCH(double, scaleY);
         QFETCH(Qt::Orientation, orientation);
+        QFETCH(QList<QSize>, sizes);
         uxPlatform::setDpiScale(scaleX, scaleY);
         QUxSlider slider(0.0, 10.0, 2.5, 5.0, orientation, nullptr, "exposure");
         QCOMPARE(slider.objectName(), QStringLiteral("exposure"));
-        QCOMPARE(slider.minValue(), 0.0);
-        QCOMPARE(slider.maxValue(), 10.0);
-        QCOMPARE(slider.value(), 5.0);
-        QCOMPARE(slider.pageStep(), 5.0); // the line step of 2.5 truncated to 2 ticks
-
+        // min, max, value, and the page step: the line step of 2.5 truncated to 2 ticks
+        QCOMPARE((QList<double>{slider.minValue(), slider.maxValue(), slider.value(), slider.pageStep()}),
+                 (QList<double>{0.0, 10.0, 5.0, 5.0}));
         const QSlider* handle = innerSlider(slider);
-        QCOMPARE(handle->orientation(), orientation);
-        QCOMPARE(handle->maximum(), 4);
-        QCOMPARE(handle->pageStep(), 2);
-        QCOMPARE(handle->value(), 2);
-        QCOMPARE(handle->minimumSize(), QSize(int(32 * scaleX), int(16 * scaleY)));
-        QCOMPARE(handle->maximumHeight(), int(32 * scaleY));
-
         const QUxDoubleSpiner* spinner = innerSpinner(slider);
-        QCOMPARE(spinner->minimumSize(), QSize(int(62 * scaleX), int(16 * scaleY)));
-        QCOMPARE(spinner->maximumSize(), QSize(int(62 * scaleX), int(32 * scaleY)));
+        QCOMPARE(handle->orientation(), orientation);
+        QCOMPARE((QList<int>{handle->maximum(), handle->pageStep(), handle->value()}), (QList<int>{4, 2, 2}));
+        QCOMPARE(
+            (QList<QSize>{handle->minimumSize(), spinner->minimumSize(), spinner->maximumSize(), slider.sizeHint()}),
+            sizes);
+        QCOMPARE(handle->maximumHeight(), spinner->maximumHeight());
         QVERIFY(spinner->alignment() & Qt::AlignRight);
         QCOMPARE(spinner->buttonSymbols(), QAbstractSpinBox::NoButtons);
-
-        auto* grid = qobject_cast<QGridLayout*>(slider.layout());
-        QVERIFY(grid);
-        QCOMPARE(grid->contentsMargins(), QMargins());
-        QCOMPARE(grid->columnStretch(0), 1);
-        QCOMPARE(grid->columnStretch(1), 0);
-        QCOMPARE(slider.sizeHint(), QSize(int(130 * scaleX), qRound(20 * scaleY)));
     }
 
     void shouldCutSoftRangeIntoTicksOfLineStep_data()
@@ -160,20 +155,41 @@ private slots:
         QCOMPARE(slider.value(), value);
     }
 
-    void shouldEmitValueChangedReleasedValueChangedWhenHandleMoves()
+    void shouldEmitInTheOrderListenersDependOn_data()
     {
-        QUxSlider slider; // unnamed and horizontal, soft range 0 .. 1 by 0.1
-        QVERIFY(slider.objectName().isEmpty());
-        QCOMPARE(innerSlider(slider)->orientation(), Qt::Horizontal);
-        SignalLog log(slider);
-        slider.setValue(0.5);
-        QCOMPARE(log.entries, QStringList({"valueChanged(0.5)", "sliderReleased", "valueChanged(0.5)"}));
+        QTest::addColumn<SliderAction>("action");
+        QTest::addColumn<QStringList>("order");
+        // from 0.5 on a soft range -1 .. 1 by 0.25: the handle at tick 6 of 8
+        QTest::newRow("setValue moving the handle")
+            << SliderAction([](QUxSlider& s) { s.setValue(-0.5); })
+            << QStringList{"valueChanged(-0.5)", "sliderReleased", "valueChanged(-0.5)"};
+        QTest::newRow("setValue keeping the handle") // up from 0.5: tick 6 stays
+            << SliderAction([](QUxSlider& s) { s.setValue(0.55); }) << QStringList{"valueChanged(0.55)"};
+        QTest::newRow("setValue with the same value")
+            << SliderAction([](QUxSlider& s) { s.setValue(0.5); }) << QStringList{"valueChanged(0.5)"};
+        QTest::newRow("handle moved by a key or click")
+            << SliderAction([](QUxSlider& s) { innerSlider(s)->setValue(2); }) << QStringList{"valueChanged(-0.5)"};
+        QTest::newRow("handle dragged without tracking") << SliderAction([](QUxSlider& s) {
+            s.setTracking(false);
+            innerSlider(s)->setSliderDown(true);
+            innerSlider(s)->setSliderPosition(2);
+            QCOMPARE(innerSpinner(s)->value(), -0.5); // shown while dragging
+            innerSlider(s)->setSliderDown(false);
+        }) << QStringList{"sliderPressed", "sliderMoved(-0.5)", "sliderReleased", "valueChanged(-0.5)"};
+    }
 
-        // once only when the handle stays
-        log.entries.clear();
+    void shouldEmitInTheOrderListenersDependOn()
+    {
+        QFETCH(SliderAction, action);
+        QFETCH(QStringList, order);
+        QUxSlider slider;
+        slider.setRange(-1.0, 1.0);
+        slider.setLineStep(0.25);
         slider.setValue(0.5);
-        slider.setValue(0.55); // up from 0.5: tick 5 stays
-        QCOMPARE(log.entries, QStringList({"valueChanged(0.5)", "valueChanged(0.55)"}));
+        SignalLog log(slider);
+        action(slider);
+        QCOMPARE(log.entries, order);
+        QCOMPARE(innerSpinner(slider)->value(), slider.value());
     }
 
     void shouldClampToHardRange_data()
@@ -194,75 +210,40 @@ private slots:
         QSignalSpy spy(&slider, &QUxSlider::valueChanged);
         slider.setValue(value);
         QCOMPARE(slider.value(), expected);
+        QCOMPARE(innerSpinner(slider)->value(), expected);
         QVERIFY(!spy.isEmpty());
         for (const QList<QVariant>& arguments : spy)
             QCOMPARE(arguments.at(0).toDouble(), expected);
-        QCOMPARE(innerSpinner(slider)->value(), expected);
     }
 
-    void shouldIgnoreNaNAndClampCurrentValueWhenHardRangeShrinks()
+    void shouldClampCurrentValueWhenHardRangeShrinks()
     {
         QUxSlider slider;
-        slider.setValue(0.4);
-        QSignalSpy spy(&slider, &QUxSlider::valueChanged);
-        slider.setValue(std::nan(""));
-        QCOMPARE(slider.value(), 0.4);
-        QCOMPARE(innerSpinner(slider)->value(), 0.4);
-        QCOMPARE(innerSlider(slider)->value(), 4);
-        QCOMPARE(spy.count(), 0);
-
         slider.setValue(5.0);
+        QSignalSpy spy(&slider, &QUxSlider::valueChanged);
         slider.setHardRange(0.0, 2.0);
         QCOMPARE(slider.value(), 2.0);
         QCOMPARE(spy.last().at(0).toDouble(), 2.0);
-        QCOMPARE(slider.hardMinValue(), 0.0);
-        QCOMPARE(slider.hardMaxValue(), 2.0);
     }
 
-    void shouldKeepTypedValueBeyondSoftRange()
+    void shouldKeepTypedValueBeyondSoftRangeAndRelayRelativeEntry()
     {
         QUxSlider slider;
         slider.show();
         QVERIFY(QTest::qWaitForWindowExposed(&slider));
         SignalLog log(slider);
+        QSignalSpy relative(&slider, &QUxSlider::relativeOperatorApplied);
 
         uxTest::typeAndCommit(innerSpinner(slider), QStringLiteral("5"));
-
         QCOMPARE(slider.value(), 5.0);
-        QCOMPARE(innerSlider(slider)->value(), 10);
+        QCOMPARE(innerSlider(slider)->value(), 10); // the handle rests at the end
         QVERIFY(log.entries.contains(QStringLiteral("valueChanged(5)")));
         QCOMPARE(log.entries.last(), QStringLiteral("changedReturn"));
-    }
 
-    void shouldTakeValueFromHandleMoves()
-    {
-        QUxSlider slider;
-        slider.setRange(-1.0, 1.0);
-        slider.setLineStep(0.25);
-        SignalLog log(slider);
-
-        innerSlider(slider)->setValue(6); // a key press or click on the groove
-        QCOMPARE(slider.value(), 0.5);
-        QCOMPARE(innerSpinner(slider)->value(), 0.5);
-        QCOMPARE(log.entries, QStringList{"valueChanged(0.5)"});
-    }
-
-    void shouldReportDragWithoutTrackingOnRelease()
-    {
-        QUxSlider slider;
-        slider.setTracking(false);
-        QVERIFY(!slider.hasTracking());
-        SignalLog log(slider);
-
-        QSlider* handle = innerSlider(slider);
-        handle->setSliderDown(true);
-        handle->setSliderPosition(4);
-        QCOMPARE(innerSpinner(slider)->value(), 0.4);
-        handle->setSliderDown(false);
-
-        QCOMPARE(log.entries,
-                 QStringList({"sliderPressed", "sliderMoved(0.4)", "sliderReleased", "valueChanged(0.4)"}));
-        QCOMPARE(slider.value(), 0.4);
+        slider.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
+        uxTest::typeAndCommit(innerSpinner(slider), QStringLiteral("+=2"));
+        QCOMPARE(relative, QList<QVariantList>({{QVariant::fromValue(QUxDoubleSpiner::RelativeAdd), 2.0}}));
+        QCOMPARE(slider.value(), 5.0);
     }
 
     void shouldShowValueInSpinnerWithoutEchoAndStepItByLineStep()
@@ -277,11 +258,9 @@ private slots:
         QCOMPARE(values.count(), 0);
 
         slider.setLineStep(0.25);
-        QCOMPARE(spinner->singleStep(), 0.25);
-        QCOMPARE(steps.count(), 1);
         slider.setLineStep(1e-9); // too fine for the spin box: it keeps its step
         QCOMPARE(spinner->singleStep(), 0.25);
-        QCOMPARE(steps.count(), 1);
+        QCOMPARE(steps, QList<QVariantList>{{0.25}});
     }
 
     void shouldKeepPageStepInTicks_data()
@@ -292,9 +271,6 @@ private slots:
         // Line step 0.5: the page step is set in ticks and read back in value units.
         QTest::newRow("truncated to whole ticks") << 3.7 << 3 << 1.5;
         QTest::newRow("below one tick") << 0.9 << 0 << 0.0;
-        QTest::newRow("beyond the int range") << 1e300 << INT_MAX << INT_MAX * 0.5;
-        QTest::newRow("far below the int range counts its size") << -1e300 << INT_MAX << INT_MAX * 0.5;
-        QTest::newRow("not a number") << std::nan("") << 0 << 0.0;
     }
 
     void shouldKeepPageStepInTicks()
@@ -311,7 +287,9 @@ private slots:
 
     void shouldSwapSidesOfSliderAndSpinner()
     {
-        QUxSlider slider;
+        QUxSlider slider; // unnamed and horizontal
+        QVERIFY(slider.objectName().isEmpty());
+        QCOMPARE(innerSlider(slider)->orientation(), Qt::Horizontal);
         slider.resize(300, 30);
         slider.show();
         QCOMPARE(slider.sliderPos(), QUxSlider::Left);
@@ -320,27 +298,12 @@ private slots:
         slider.setSliderPos(QUxSlider::Right);
         QCOMPARE(slider.sliderPos(), QUxSlider::Right);
         QTRY_VERIFY(innerSpinner(slider)->x() < innerSlider(slider)->x());
-        QVERIFY(innerSlider(slider)->width() > innerSpinner(slider)->width()); // the slider still takes the stretch
+        // no margins, and the slider still takes the stretch
+        QCOMPARE(innerSpinner(slider)->x(), 0);
+        QCOMPARE(innerSlider(slider)->geometry().right(), slider.width() - 1);
 
         slider.setSliderPos(QUxSlider::Left);
         QTRY_VERIFY(innerSlider(slider)->x() < innerSpinner(slider)->x());
-    }
-
-    void shouldRelayRelativeOperatorOfSpinner()
-    {
-        QUxSlider slider;
-        slider.setValue(0.5);
-        slider.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
-        slider.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&slider));
-        QSignalSpy spy(&slider, &QUxSlider::relativeOperatorApplied);
-
-        uxTest::typeAndCommit(innerSpinner(slider), QStringLiteral("+=2"));
-
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).value<QUxDoubleSpiner::RelativeOperator>(), QUxDoubleSpiner::RelativeAdd);
-        QCOMPARE(spy.at(0).at(1).toDouble(), 2.0);
-        QCOMPARE(slider.value(), 0.5);
     }
 
     void shouldNotLetHandleSignalsOutWhileBlocked()
@@ -366,17 +329,12 @@ private slots:
             return slider.grab().toImage().pixelColor(innerSlider(slider)->mapTo(&slider, QPoint(1, 1)));
         };
         QVERIFY(colourAt() != QColor(200, 0, 0));
-
-        uxUIStyle::setMultiSelectHighlight(&slider, true);
-        QCOMPARE(innerSlider(slider)->property("multiselect"), QVariant(true));
-        QCOMPARE(innerSpinner(slider)->property("multiselect"), QVariant(true));
-        QCOMPARE(colourAt(), QColor(200, 0, 0)); // the style sheet sees the new property
-
-        uxUIStyle::setMultiSelectHighlight(&slider, false);
-        QVERIFY(!slider.property("multiselect").isValid());
-        QVERIFY(!innerSlider(slider)->property("multiselect").isValid());
-        QVERIFY(!innerSpinner(slider)->property("multiselect").isValid());
-        QVERIFY(colourAt() != QColor(200, 0, 0));
+        for (bool on : {true, false}) {
+            uxUIStyle::setMultiSelectHighlight(&slider, on);
+            for (QWidget* w : QWidgetList{&slider, innerSlider(slider), innerSpinner(slider)})
+                QCOMPARE(w->property("multiselect"), on ? QVariant(true) : QVariant());
+            QCOMPARE(colourAt() == QColor(200, 0, 0), on); // the style sheet sees the new property
+        }
 
         QWidget plain; // not a composite: only the widget itself is marked
         QLineEdit child(&plain);

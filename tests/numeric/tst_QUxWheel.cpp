@@ -4,7 +4,6 @@
 #include <uxTestSupport.h>
 
 #include <QApplication>
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -32,9 +31,22 @@ struct DragCase
     double expected;
 };
 
+/// Orientation, key, start value, expected value.
+using KeyCase = std::tuple<Qt::Orientation, int, double, double>;
+/// Wheel delta, Ctrl held, single step, expected value.
+using TurnCase = std::tuple<int, bool, double, double>;
+
 } // namespace
 
 Q_DECLARE_METATYPE(DragCase)
+Q_DECLARE_METATYPE(KeyCase)
+Q_DECLARE_METATYPE(TurnCase)
+
+/// A horizontal wheel of the size it hints at scale 1.
+struct Wheel : QUxWheel
+{
+    Wheel() { resize(130, 20); }
+};
 
 class tst_QUxWheel : public QObject
 {
@@ -46,33 +58,26 @@ private slots:
 
     void shouldStartAsHorizontalFullRangeWheelOrSixArgumentWheelWithInvertedRange()
     {
-        QUxWheel wheel;
-        QCOMPARE(wheel.value(), 0.0);
-        QCOMPARE(wheel.minimum(), -IntRange);
-        QCOMPARE(wheel.maximum(), IntRange);
-        QCOMPARE(wheel.singleStep(), 1.0);
+        QUxWheel wheel; // value, range, step, transmission ratio
+        QCOMPARE((QList<double>{wheel.value(), wheel.minimum(), wheel.maximum(), wheel.singleStep(),
+                                wheel.transmissionRatio()}),
+                 (QList<double>{0.0, -IntRange, IntRange, 1.0, 1.0}));
         QCOMPARE(wheel.cogCount(), 17);
-        QCOMPARE(wheel.transmissionRatio(), 1.0);
-        QVERIFY(!wheel.limitedDrag());
-        QVERIFY(!wheel.wrapsAround());
-        QVERIFY(!wheel.ignoreRange());
-        QVERIFY(!wheel.emitsRelativeValue());
+        QVERIFY(!wheel.limitedDrag() && !wheel.wrapsAround() && !wheel.ignoreRange() && !wheel.emitsRelativeValue());
         QCOMPARE(wheel.orientation(), Qt::Horizontal);
         const QMetaProperty user = wheel.metaObject()->userProperty();
         QCOMPARE(user.name(), "value");
         QCOMPARE(user.notifySignal().methodSignature(), QByteArray("valueChanged(double)"));
 
         QUxWheel six(5, 500, 25, 42, Qt::Vertical);
-        QCOMPARE(six.minimum(), -2147483647.0);
-        QCOMPARE(six.maximum(), -2147483648.0);
-        QCOMPARE(six.value(), 42.0);
+        QCOMPARE((QList<double>{six.minimum(), six.maximum(), six.value(), six.singleStep()}),
+                 (QList<double>{-2147483647.0, -2147483648.0, 42.0, 1.0}));
         QCOMPARE(six.pageStep(), 25);
-        QCOMPARE(six.singleStep(), 1.0);
         QCOMPARE(six.QAbstractSlider::singleStep(), 1);
         QVERIFY(six.limitedDrag());
         QCOMPARE(six.orientation(), Qt::Vertical);
 
-        QUxWheel sixHorizontal(0, 0, 10, 0, Qt::Horizontal);
+        QUxWheel sixHorizontal(0, 0, 10, 50, Qt::Horizontal);
         for (const QUxWheel* w : {&wheel, &six, &sixHorizontal}) {
             const bool horizontal = w != &six;
             QCOMPARE(w->sizePolicy().horizontalPolicy(), horizontal ? QSizePolicy::Expanding : QSizePolicy::Fixed);
@@ -80,70 +85,36 @@ private slots:
             QCOMPARE(w->focusPolicy(), Qt::WheelFocus);
             QVERIFY(w->testAttribute(Qt::WA_OpaquePaintEvent));
         }
+        // Until the host sets a range, every drag clamps to the inverted range's minimum.
+        sixHorizontal.resize(130, 20);
+        drag(&sixHorizontal, QPoint(10, 10), QPoint(60, 10));
+        QCOMPARE(sixHorizontal.value(), -IntRange);
+        sixHorizontal.setRange(0.0, 100.0);
+        drag(&sixHorizontal, QPoint(10, 10), QPoint(30, 10));
+        QCOMPARE(sixHorizontal.value(), 0.0);
     }
 
-    void shouldClampDragToMinimumWhileRangeIsInverted()
-    {
-        QUxWheel wheel(0, 0, 10, 50, Qt::Horizontal);
-        wheel.resize(130, 20);
-        drag(&wheel, QPoint(10, 10), QPoint(60, 10));
-        QCOMPARE(wheel.value(), -2147483647.0);
-
-        wheel.setRange(0.0, 100.0);
-        drag(&wheel, QPoint(10, 10), QPoint(30, 10));
-        QCOMPARE(wheel.value(), 0.0);
-    }
-
-    void shouldStoreSetValueUnclampedAndEmitEveryTime()
+    void shouldStoreValueUnclampedEmitEveryTimeAndMirrorItInBase()
     {
         QUxWheel wheel;
         wheel.setRange(0.0, 10.0);
         QSignalSpy spy(&wheel, &QUxWheel::valueChanged);
-        wheel.setValue(25.5);
-        wheel.setValue(25.5);
-        QCOMPARE(wheel.value(), 25.5);
-        QCOMPARE(spy.count(), 2);
-        QCOMPARE(spy.at(0).at(0).toDouble(), 25.5);
-
-        wheel.setRange(30.0, 40.0);
-        wheel.updateValue(-3.25);
-        QCOMPARE(wheel.value(), -3.25);
-        QCOMPARE(wheel.minimum(), 30.0);
-        QCOMPARE(spy.count(), 2);
-    }
-
-    void shouldMirrorTruncatedValueInBaseWithoutBaseSignal_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("base");
-        QTest::newRow("positive fraction") << 2.9 << 2;
-        QTest::newRow("negative fraction") << -2.9 << -2;
-        QTest::newRow("above int range") << 1e12 << INT_MAX;
-        QTest::newRow("below int range") << -1e12 << INT_MIN;
-    }
-
-    void shouldMirrorTruncatedValueInBaseWithoutBaseSignal()
-    {
-        QFETCH(double, value);
-        QFETCH(int, base);
-        QUxWheel wheel;
         QSignalSpy baseSpy(&wheel, &QAbstractSlider::valueChanged);
-        wheel.setValue(value);
-        QCOMPARE(wheel.QAbstractSlider::value(), base);
-        QCOMPARE(baseSpy.count(), 0);
-    }
-
-    void shouldFollowIntegerBaseAndKeepItsStepInStep()
-    {
-        QUxWheel wheel;
-        QSignalSpy values(&wheel, &QUxWheel::valueChanged);
         QSignalSpy steps(&wheel, &QUxWheel::singleStepChanged);
+        wheel.setValue(25.5);
+        wheel.setValue(25.5);
+        QCOMPARE(std::make_pair(wheel.value(), wheel.QAbstractSlider::value()), std::make_pair(25.5, 25));
+        wheel.setRange(30.0, 40.0);
+        wheel.updateValue(-3.25); // silent; the base truncates toward zero
+        QCOMPARE(std::make_pair(wheel.value(), wheel.QAbstractSlider::value()), std::make_pair(-3.25, -3));
+        QCOMPARE(wheel.minimum(), 30.0);
+        QCOMPARE(baseSpy.count(), 0);
+
         static_cast<QAbstractSlider&>(wheel).setValue(42); // a host driving the base
         QCOMPARE(wheel.value(), 42.0);
-        QCOMPARE(values, QList<QVariantList>{{42.0}});
+        QCOMPARE(spy, QList<QVariantList>({{25.5}, {25.5}, {42.0}}));
         wheel.setSingleStep(2.75);
-        QCOMPARE(wheel.singleStep(), 2.75);
-        QCOMPARE(wheel.QAbstractSlider::singleStep(), 2);
+        QCOMPARE(std::make_pair(wheel.singleStep(), wheel.QAbstractSlider::singleStep()), std::make_pair(2.75, 2));
         QCOMPARE(steps, QList<QVariantList>{{2.75}});
     }
 
@@ -187,8 +158,7 @@ private slots:
 
     void shouldReportIncrementsInRelativeMode()
     {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
+        Wheel wheel;
         wheel.setEmitRelativeValue(true);
         wheel.setSingleStep(2.0);
         wheel.setValue(7.0);
@@ -200,76 +170,51 @@ private slots:
         QCOMPARE(wheel.value(), 7.0);
         QCOMPARE(changed.count(), 0);
         // The release is a drag step of its own, reported even when it adds nothing.
-        QCOMPARE(added.count(), 2);
-        QCOMPARE(added.at(0).at(0).toDouble(), 30.0);
-        QCOMPARE(added.at(1).at(0).toDouble(), 0.0);
+        QCOMPARE(added, QList<QVariantList>({{30.0}, {0.0}}));
     }
 
-    void shouldApplyReleaseStepOfButtonThatNeverPressed()
+    void shouldHoldSliderDownForAnyButtonAndStepOnEveryRelease()
     {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
+        Wheel wheel;
         wheel.setSingleStep(2.0);
-        QTest::mouseRelease(&wheel, Qt::RightButton, Qt::NoModifier, QPoint(9, 10));
-        // The drag origin is still -1, so the release counts 10 pixels.
-        QCOMPARE(wheel.value(), 20.0);
-    }
-
-    void shouldNotDragWithoutTracking()
-    {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
-        wheel.setTracking(false);
-        QTest::mousePress(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-        moveMouse(&wheel, QPoint(30, 10));
-        QCOMPARE(wheel.value(), 0.0);
-        QTest::mouseRelease(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(30, 10));
-        QCOMPARE(wheel.value(), 20.0);
-    }
-
-    void shouldTellBaseThatSliderIsDown()
-    {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
         QSignalSpy pressed(&wheel, &QAbstractSlider::sliderPressed);
         QSignalSpy released(&wheel, &QAbstractSlider::sliderReleased);
-        QTest::mousePress(&wheel, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 10));
+        QTest::mousePress(&wheel, Qt::RightButton, Qt::NoModifier, QPoint(9, 10));
         QVERIFY(wheel.isSliderDown());
-        QCOMPARE(pressed.count(), 1);
-        QTest::mouseRelease(&wheel, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 10));
+        // Only a left press starts a drag: the origin is still -1, so the release at x 9 counts 10 pixels.
+        QTest::mouseRelease(&wheel, Qt::RightButton, Qt::NoModifier, QPoint(9, 10));
         QVERIFY(!wheel.isSliderDown());
-        QCOMPARE(released.count(), 1);
+        QCOMPARE(std::make_pair(pressed.count(), released.count()), std::make_pair(1, 1));
+        QCOMPARE(wheel.value(), 20.0);
+
+        wheel.setTracking(false); // moves are ignored, the release still steps
+        QTest::mousePress(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+        moveMouse(&wheel, QPoint(30, 10));
+        QCOMPARE(wheel.value(), 20.0);
+        QTest::mouseRelease(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(30, 10));
+        QCOMPARE(wheel.value(), 60.0);
     }
 
     void shouldStepWithKeysAndPassOtherKeysOn_data()
     {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<double>("start");
-        QTest::addColumn<double>("expected");
-
-        // Single step 0.5, page step 10, range -20 to 20.
-        QTest::newRow("right") << Qt::Horizontal << int(Qt::Key_Right) << 1.0 << 1.5;
-        QTest::newRow("left") << Qt::Horizontal << int(Qt::Key_Left) << 1.0 << 0.5;
-        QTest::newRow("up on horizontal") << Qt::Horizontal << int(Qt::Key_Up) << 1.0 << 1.0;
-        QTest::newRow("down") << Qt::Vertical << int(Qt::Key_Down) << 1.0 << 1.5;
-        QTest::newRow("up") << Qt::Vertical << int(Qt::Key_Up) << 1.0 << 0.5;
-        QTest::newRow("left on vertical") << Qt::Vertical << int(Qt::Key_Left) << 1.0 << 1.0;
-        QTest::newRow("page down") << Qt::Horizontal << int(Qt::Key_PageDown) << 1.0 << 11.0;
-        QTest::newRow("page up") << Qt::Vertical << int(Qt::Key_PageUp) << 1.0 << -9.0;
-        QTest::newRow("page down clamps") << Qt::Horizontal << int(Qt::Key_PageDown) << 15.0 << 20.0;
-        QTest::newRow("home") << Qt::Horizontal << int(Qt::Key_Home) << 3.0 << -20.0;
-        QTest::newRow("end") << Qt::Vertical << int(Qt::Key_End) << 3.0 << 20.0;
-        QTest::newRow("other key passed on") << Qt::Horizontal << int(Qt::Key_A) << 0.0 << 0.0;
+        QTest::addColumn<KeyCase>("keyCase");
+        // Single step 0.5, page step 10, range -20 to 20; an arrow of the other orientation does nothing.
+        const Qt::Orientation h = Qt::Horizontal, v = Qt::Vertical;
+        const KeyCase cases[] = {
+            {h, Qt::Key_Right, 1, 1.5},   {h, Qt::Key_Left, 1, 0.5},  {h, Qt::Key_Up, 1, 1},
+            {v, Qt::Key_Down, 1, 1.5},    {v, Qt::Key_Up, 1, 0.5},    {v, Qt::Key_Left, 1, 1},
+            {h, Qt::Key_PageDown, 1, 11}, {v, Qt::Key_PageUp, 1, -9}, {h, Qt::Key_PageDown, 15, 20},
+            {h, Qt::Key_Home, 3, -20},    {v, Qt::Key_End, 3, 20},    {h, Qt::Key_A, 0, 0}};
+        for (const KeyCase& c : cases)
+            QTest::addRow("%s %s from %g", std::get<0>(c) == h ? "horizontal" : "vertical",
+                          qPrintable(QKeySequence(std::get<1>(c)).toString()), std::get<2>(c))
+                << c;
     }
 
     void shouldStepWithKeysAndPassOtherKeysOn()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(int, key);
-        QFETCH(double, start);
-        QFETCH(double, expected);
-
+        QFETCH(KeyCase, keyCase);
+        const auto [orientation, key, start, expected] = keyCase;
         QUxWheel wheel;
         wheel.setOrientation(orientation);
         wheel.setRange(-20.0, 20.0);
@@ -279,37 +224,26 @@ private slots:
         QSignalSpy spy(&wheel, &QUxWheel::valueChanged);
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_A ? QStringLiteral("a") : QString());
         QApplication::sendEvent(&wheel, &press);
-        QCOMPARE(press.isAccepted(), key != Qt::Key_A);
+        QCOMPARE(press.isAccepted(), key != Qt::Key_A); // other keys go on to the parent
         QCOMPARE(wheel.value(), expected);
         QCOMPARE(spy.isEmpty(), expected == start);
     }
 
     void shouldTurnWithMouseWheel_data()
     {
-        QTest::addColumn<int>("delta");
-        QTest::addColumn<bool>("control");
-        QTest::addColumn<double>("step");
-        QTest::addColumn<double>("expected");
-
-        // Page step 10, starting at 0: (step * delta) / 600, truncated toward zero.
-        QTest::newRow("notch up adds 2") << 120 << false << 1.0 << 2.0;
-        QTest::newRow("notch down subtracts 2") << -120 << false << 1.0 << -2.0;
-        QTest::newRow("small delta adds nothing") << 30 << false << 1.0 << 0.0;
-        QTest::newRow("truncates toward zero") << -90 << false << 1.0 << -1.0;
-        QTest::newRow("control with step 1 adds nothing") << 120 << true << 1.0 << 0.0;
-        QTest::newRow("control with step 5 adds 1") << 120 << true << 5.0 << 1.0;
-        QTest::newRow("control truncates the step") << 600 << true << 2.9 << 2.0;
+        QTest::addColumn<TurnCase>("turn");
+        // Page step 10, or the single step truncated with Ctrl, from 0: (step * delta) / 600, truncated toward zero.
+        const TurnCase cases[] = {{120, false, 1, 2}, {-120, false, 1, -2}, {30, false, 1, 0},  {-90, false, 1, -1},
+                                  {120, true, 1, 0},  {120, true, 5, 1},    {600, true, 2.9, 2}};
+        for (const TurnCase& c : cases)
+            QTest::addRow("delta %d%s step %g", std::get<0>(c), std::get<1>(c) ? " ctrl" : "", std::get<2>(c)) << c;
     }
 
     void shouldTurnWithMouseWheel()
     {
-        QFETCH(int, delta);
-        QFETCH(bool, control);
-        QFETCH(double, step);
-        QFETCH(double, expected);
-
-        QUxWheel wheel;
-        wheel.resize(130, 20);
+        QFETCH(TurnCase, turn);
+        const auto [delta, control, step, expected] = turn;
+        Wheel wheel;
         wheel.setPageStep(10);
         wheel.setSingleStep(step);
         QSignalSpy spy(&wheel, &QUxWheel::valueChanged);
@@ -320,8 +254,7 @@ private slots:
 
     void shouldBringWheeledValueBackWithNextDragStep()
     {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
+        Wheel wheel;
         wheel.setRange(0.0, 100.0);
         wheel.setValue(99.0);
         turnWheel(&wheel, 240);
@@ -342,28 +275,31 @@ private slots:
         QCOMPARE(wheel.sizeHint(), QSize(195, 40));
     }
 
-    void shouldPaintEveryPixelAndIgnoreCogCountBelowOne_data()
+    void shouldPaintOpaqueShadedWheelAndIgnoreCogCountBelowOne_data()
     {
         QTest::addColumn<int>("cogs");
         QTest::addColumn<int>("expected");
         QTest::newRow("one rib") << 1 << 1;
-        QTest::newRow("more ribs than pixels") << INT_MAX << INT_MAX;
         QTest::newRow("zero ignored") << 0 << 17;
         QTest::newRow("negative ignored") << -4 << 17;
     }
 
-    void shouldPaintEveryPixelAndIgnoreCogCountBelowOne()
+    void shouldPaintOpaqueShadedWheelAndIgnoreCogCountBelowOne()
     {
         QFETCH(int, cogs);
         QFETCH(int, expected);
-        QUxWheel wheel;
+        Wheel wheel;
         wheel.setCogCount(cogs);
         QCOMPARE(wheel.cogCount(), expected);
-        wheel.resize(130, 20);
         const QImage image = uxTest::grab(&wheel);
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
                 QCOMPARE(qAlpha(image.pixel(x, y)), 255);
+        // the ends turn away from the light
+        const double middle =
+            (columnLightness(image, 60) + columnLightness(image, 65) + columnLightness(image, 70)) / 3;
+        QVERIFY(columnLightness(image, 5) < middle - 0.2);
+        QVERIFY(columnLightness(image, 124) < middle - 0.2);
     }
 
     void shouldMoveRibsWithValue_data()
@@ -380,7 +316,6 @@ private slots:
         wheel.setOrientation(orientation);
         wheel.resize(orientation == Qt::Horizontal ? QSize(130, 20) : QSize(20, 130));
         const QImage atZero = uxTest::grab(&wheel);
-        QCOMPARE(uxTest::grab(&wheel), atZero);
         wheel.setValue(3.0);
         QVERIFY(uxTest::grab(&wheel) != atZero);
         wheel.setValue(0.0);
@@ -389,21 +324,9 @@ private slots:
         QVERIFY(uxTest::grab(&wheel) != atZero);
     }
 
-    void shouldShadeEndsDarkerThanMiddle()
-    {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
-        const QImage image = uxTest::grab(&wheel);
-        const double middle =
-            (columnLightness(image, 60) + columnLightness(image, 65) + columnLightness(image, 70)) / 3;
-        QVERIFY(columnLightness(image, 5) < middle - 0.2);
-        QVERIFY(columnLightness(image, 124) < middle - 0.2);
-    }
-
     void shouldPaintPressedAndFocusLooks()
     {
-        QUxWheel wheel;
-        wheel.resize(130, 20);
+        Wheel wheel;
         const QImage idle = uxTest::grab(&wheel);
         QTest::mousePress(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
         const QImage pressed = uxTest::grab(&wheel);
