@@ -34,10 +34,16 @@ public:
 };
 
 using SliderAction = std::function<void(QUxSlider&)>;
+/// Soft minimum, soft maximum, line step, last tick of the handle.
+using Ticks = std::tuple<double, double, double, int>;
+/// Previous value, new value, tick of the handle.
+using Move = std::tuple<double, double, int>;
 
 } // namespace
 
 Q_DECLARE_METATYPE(SliderAction)
+Q_DECLARE_METATYPE(Ticks)
+Q_DECLARE_METATYPE(Move)
 
 class tst_QUxSlider : public QObject
 {
@@ -104,50 +110,40 @@ private slots:
 
     void shouldCutSoftRangeIntoTicksOfLineStep_data()
     {
-        QTest::addColumn<double>("minimum");
-        QTest::addColumn<double>("maximum");
-        QTest::addColumn<double>("lineStep");
-        QTest::addColumn<int>("lastTick");
+        QTest::addColumn<Ticks>("ticks");
         // 2.5 ticks round up; a reversed range counts its size
-        const std::tuple<double, double, double, int> ranges[] = {{0, 1, 0.1, 10}, {0, 1, 0.3, 3}, {0, 1, 0.4, 3},
-                                                                  {-1, 1, 0.5, 4}, {2, 0, 0.5, 4}, {0, 100, 1, 100},
-                                                                  {3, 3, 0.1, 0}};
-        for (const auto& [minimum, maximum, lineStep, lastTick] : ranges)
-            QTest::addRow("%g..%g by %g", minimum, maximum, lineStep) << minimum << maximum << lineStep << lastTick;
+        const Ticks ranges[] = {{0, 1, 0.1, 10}, {0, 1, 0.3, 3},   {0, 1, 0.4, 3}, {-1, 1, 0.5, 4},
+                                {2, 0, 0.5, 4},  {0, 100, 1, 100}, {3, 3, 0.1, 0}};
+        for (const Ticks& t : ranges)
+            QTest::addRow("%g..%g by %g", std::get<0>(t), std::get<1>(t), std::get<2>(t)) << t;
     }
 
     void shouldCutSoftRangeIntoTicksOfLineStep()
     {
-        QFETCH(double, minimum);
-        QFETCH(double, maximum);
-        QFETCH(double, lineStep);
-        QFETCH(int, lastTick);
+        QFETCH(Ticks, ticks);
+        const auto [minimum, maximum, lineStep, lastTick] = ticks;
         QUxSlider slider;
         slider.setLineStep(lineStep);
         slider.setRange(minimum, maximum);
-        QCOMPARE(innerSlider(slider)->minimum(), 0);
-        QCOMPARE(innerSlider(slider)->maximum(), lastTick);
-        QCOMPARE(innerSlider(slider)->singleStep(), 1);
+        const QSlider* handle = innerSlider(slider);
+        QCOMPARE((QList<int>{handle->minimum(), handle->maximum(), handle->singleStep()}),
+                 (QList<int>{0, lastTick, 1}));
     }
 
     void shouldRoundHandleTowardPreviousValue_data()
     {
-        QTest::addColumn<double>("previous");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("tick");
+        QTest::addColumn<Move>("move");
         // soft range 0 .. 1 by 0.1; a value that stays rounds up; beyond the ends the handle rests there
-        const std::tuple<double, double, int> moves[] = {{0, 0.34, 3},    {1, 0.34, 4}, {0, 0.36, 3},
-                                                         {1, 0.36, 4},    {0, 0.3, 3},  {1, 0.7, 7},
-                                                         {0.34, 0.34, 4}, {0, 5, 10},   {0.5, -2, 0}};
-        for (const auto& [previous, value, tick] : moves)
-            QTest::addRow("%g to %g", previous, value) << previous << value << tick;
+        const Move moves[] = {{0, 0.34, 3}, {1, 0.34, 4},    {0, 0.36, 3}, {1, 0.36, 4}, {0, 0.3, 3},
+                              {1, 0.7, 7},  {0.34, 0.34, 4}, {0, 5, 10},   {0.5, -2, 0}};
+        for (const Move& m : moves)
+            QTest::addRow("%g to %g", std::get<0>(m), std::get<1>(m)) << m;
     }
 
     void shouldRoundHandleTowardPreviousValue()
     {
-        QFETCH(double, previous);
-        QFETCH(double, value);
-        QFETCH(int, tick);
+        QFETCH(Move, move);
+        const auto [previous, value, tick] = move;
         QUxSlider slider; // soft range 0 .. 1, line step 0.1
         slider.setValue(previous);
         slider.setValue(value);
@@ -194,36 +190,31 @@ private slots:
 
     void shouldClampToHardRange_data()
     {
+        QTest::addColumn<bool>("rangeFirst");
         QTest::addColumn<double>("value");
         QTest::addColumn<double>("expected");
-        QTest::newRow("above") << 3.0 << 2.0;
-        QTest::newRow("below") << -1.0 << 0.0;
-        QTest::newRow("inside beyond soft range") << 1.5 << 1.5;
+        QTest::newRow("above") << true << 3.0 << 2.0;
+        QTest::newRow("below") << true << -1.0 << 0.0;
+        QTest::newRow("inside beyond soft range") << true << 1.5 << 1.5;
+        QTest::newRow("range shrinking onto the value") << false << 5.0 << 2.0;
     }
 
     void shouldClampToHardRange()
     {
+        QFETCH(bool, rangeFirst);
         QFETCH(double, value);
         QFETCH(double, expected);
         QUxSlider slider;
-        slider.setHardRange(0.0, 2.0);
+        const std::function<void()> setRange = [&] { slider.setHardRange(0.0, 2.0); };
+        const std::function<void()> setValue = [&] { slider.setValue(value); };
+        (rangeFirst ? setRange : setValue)();
         QSignalSpy spy(&slider, &QUxSlider::valueChanged);
-        slider.setValue(value);
+        (rangeFirst ? setValue : setRange)();
         QCOMPARE(slider.value(), expected);
         QCOMPARE(innerSpinner(slider)->value(), expected);
         QVERIFY(!spy.isEmpty());
         for (const QList<QVariant>& arguments : spy)
             QCOMPARE(arguments.at(0).toDouble(), expected);
-    }
-
-    void shouldClampCurrentValueWhenHardRangeShrinks()
-    {
-        QUxSlider slider;
-        slider.setValue(5.0);
-        QSignalSpy spy(&slider, &QUxSlider::valueChanged);
-        slider.setHardRange(0.0, 2.0);
-        QCOMPARE(slider.value(), 2.0);
-        QCOMPARE(spy.last().at(0).toDouble(), 2.0);
     }
 
     void shouldKeepTypedValueBeyondSoftRangeAndRelayRelativeEntry()
@@ -253,7 +244,6 @@ private slots:
         QSignalSpy values(spinner, qOverload<double>(&QDoubleSpinBox::valueChanged));
         QSignalSpy steps(spinner, &QUxDoubleSpiner::singleStepChanged);
         slider.setValue(0.75);
-        QCOMPARE(spinner->value(), 0.75);
         QCOMPARE(spinner->text(), QStringLiteral("0.75"));
         QCOMPARE(values.count(), 0);
 
@@ -263,26 +253,14 @@ private slots:
         QCOMPARE(steps, QList<QVariantList>{{0.25}});
     }
 
-    void shouldKeepPageStepInTicks_data()
-    {
-        QTest::addColumn<double>("pageStep");
-        QTest::addColumn<int>("ticks");
-        QTest::addColumn<double>("value");
-        // Line step 0.5: the page step is set in ticks and read back in value units.
-        QTest::newRow("truncated to whole ticks") << 3.7 << 3 << 1.5;
-        QTest::newRow("below one tick") << 0.9 << 0 << 0.0;
-    }
-
     void shouldKeepPageStepInTicks()
     {
-        QFETCH(double, pageStep);
-        QFETCH(int, ticks);
-        QFETCH(double, value);
         QUxSlider slider;
-        slider.setSteps(0.5, pageStep);
-        QCOMPARE(slider.lineStep(), 0.5);
-        QCOMPARE(innerSlider(slider)->pageStep(), ticks);
-        QCOMPARE(slider.pageStep(), value);
+        slider.setSteps(0.5, 3.7); // set in whole ticks, read back in value units
+        QCOMPARE(std::make_pair(slider.lineStep(), slider.pageStep()), std::make_pair(0.5, 1.5));
+        QCOMPARE(innerSlider(slider)->pageStep(), 3);
+        slider.setPageStep(0.9); // below one tick
+        QCOMPARE(std::make_pair(innerSlider(slider)->pageStep(), slider.pageStep()), std::make_pair(0, 0.0));
     }
 
     void shouldSwapSidesOfSliderAndSpinner()

@@ -240,21 +240,17 @@ private slots:
 
     void shouldLayOutPerOrientation_data()
     {
-        using Cells = QList<QPoint>; // QPoint(column, row)
+        using C = QList<QPoint>; // QPoint(column, row)
         QTest::addColumn<int>("orientation");
         QTest::addColumn<bool>("mirrored");
-        QTest::addColumn<Cells>("labelCells");
-        QTest::addColumn<Cells>("editorCells");
-        const int vertical = QUxVec3Control::VERTICAL, horizontal = QUxVec3Control::HORIZONTAL;
-        QTest::newRow("vertical") << vertical << false << Cells{{0, 0}, {0, 1}, {0, 2}}
-                                  << Cells{{1, 0}, {1, 1}, {1, 2}};
-        QTest::newRow("horizontal") << horizontal << false << Cells{{0, 0}, {2, 0}, {4, 0}}
-                                    << Cells{{1, 0}, {3, 0}, {5, 0}};
-        QTest::newRow("vertical mirrored")
-            << vertical << true << Cells{{1, 0}, {1, 1}, {1, 2}} << Cells{{0, 0}, {0, 1}, {0, 2}};
-        QTest::newRow("horizontal mirrored")
-            << horizontal << true << Cells{{1, 0}, {3, 0}, {5, 0}} << Cells{{0, 0}, {2, 0}, {4, 0}};
-        QTest::newRow("unknown leaves the grid empty") << 9 << false << Cells() << Cells();
+        QTest::addColumn<C>("labelCells");
+        QTest::addColumn<C>("editorCells");
+        const int v = QUxVec3Control::VERTICAL, h = QUxVec3Control::HORIZONTAL;
+        QTest::newRow("vertical") << v << false << C{{0, 0}, {0, 1}, {0, 2}} << C{{1, 0}, {1, 1}, {1, 2}};
+        QTest::newRow("horizontal") << h << false << C{{0, 0}, {2, 0}, {4, 0}} << C{{1, 0}, {3, 0}, {5, 0}};
+        QTest::newRow("vertical mirrored") << v << true << C{{1, 0}, {1, 1}, {1, 2}} << C{{0, 0}, {0, 1}, {0, 2}};
+        QTest::newRow("horizontal mirrored") << h << true << C{{1, 0}, {3, 0}, {5, 0}} << C{{0, 0}, {2, 0}, {4, 0}};
+        QTest::newRow("unknown leaves the grid empty") << 9 << false << C() << C();
     }
 
     void shouldLayOutPerOrientation()

@@ -72,8 +72,7 @@ private slots:
         QUxWheel six(5, 500, 25, 42, Qt::Vertical);
         QCOMPARE((QList<double>{six.minimum(), six.maximum(), six.value(), six.singleStep()}),
                  (QList<double>{-2147483647.0, -2147483648.0, 42.0, 1.0}));
-        QCOMPARE(six.pageStep(), 25);
-        QCOMPARE(six.QAbstractSlider::singleStep(), 1);
+        QCOMPARE(std::make_pair(six.pageStep(), six.QAbstractSlider::singleStep()), std::make_pair(25, 1));
         QVERIFY(six.limitedDrag());
         QCOMPARE(six.orientation(), Qt::Vertical);
 
@@ -263,18 +262,6 @@ private slots:
         QCOMPARE(wheel.value(), 100.0);
     }
 
-    void shouldHintSizeByOrientationAndScale()
-    {
-        QUxWheel wheel;
-        QCOMPARE(wheel.sizeHint(), QSize(130, 20));
-        wheel.setOrientation(Qt::Vertical);
-        QCOMPARE(wheel.sizeHint(), QSize(20, 130));
-        uxPlatform::setDpiScale(1.5, 2.0);
-        QCOMPARE(wheel.sizeHint(), QSize(30, 260));
-        wheel.setOrientation(Qt::Horizontal);
-        QCOMPARE(wheel.sizeHint(), QSize(195, 40));
-    }
-
     void shouldPaintOpaqueShadedWheelAndIgnoreCogCountBelowOne_data()
     {
         QTest::addColumn<int>("cogs");
@@ -302,19 +289,24 @@ private slots:
         QVERIFY(columnLightness(image, 124) < middle - 0.2);
     }
 
-    void shouldMoveRibsWithValue_data()
+    void shouldHintSizeByOrientationAndMoveRibsWithValue_data()
     {
         QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::newRow("horizontal") << Qt::Horizontal;
-        QTest::newRow("vertical") << Qt::Vertical;
+        QTest::addColumn<QSize>("hint");
+        QTest::addColumn<QSize>("scaledHint"); // at scale 1.5 x 2
+        QTest::newRow("horizontal") << Qt::Horizontal << QSize(130, 20) << QSize(195, 40);
+        QTest::newRow("vertical") << Qt::Vertical << QSize(20, 130) << QSize(30, 260);
     }
 
-    void shouldMoveRibsWithValue()
+    void shouldHintSizeByOrientationAndMoveRibsWithValue()
     {
         QFETCH(Qt::Orientation, orientation);
+        QFETCH(QSize, hint);
+        QFETCH(QSize, scaledHint);
         QUxWheel wheel;
         wheel.setOrientation(orientation);
-        wheel.resize(orientation == Qt::Horizontal ? QSize(130, 20) : QSize(20, 130));
+        QCOMPARE(wheel.sizeHint(), hint);
+        wheel.resize(hint);
         const QImage atZero = uxTest::grab(&wheel);
         wheel.setValue(3.0);
         QVERIFY(uxTest::grab(&wheel) != atZero);
@@ -322,6 +314,8 @@ private slots:
         QCOMPARE(uxTest::grab(&wheel), atZero);
         wheel.setCogCount(5);
         QVERIFY(uxTest::grab(&wheel) != atZero);
+        uxPlatform::setDpiScale(1.5, 2.0);
+        QCOMPARE(wheel.sizeHint(), scaledHint);
     }
 
     void shouldPaintPressedAndFocusLooks()
