@@ -63,13 +63,9 @@ QPoint upButtonCentre(QUxSpiner& spin)
     return spin.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin).center();
 }
 
-/// A press of @p button at x 60 on the line edit, a move to @p toX and the release there.
-struct SpinDrag
-{
-    Qt::MouseButton button;
-    const char* state;
-    int start, step, toX, expected;
-};
+/// The button pressed at x 60 on the line edit, the state ("read-only", "disabled" or ""), start value, single
+/// step, x of the move and the release, expected value.
+using SpinDrag = std::tuple<Qt::MouseButton, const char*, int, int, int, int>;
 
 } // namespace
 
@@ -128,7 +124,7 @@ private slots:
     {
         QTest::addColumn<SpinDrag>("drag");
         const Qt::MouseButton middle = Qt::MiddleButton;
-        // button, state, start, step, to x, expected: one step per pixel, clamped even where the sum leaves int
+        // one step per pixel, clamped even where the sum leaves int
         QTest::newRow("middle left") << SpinDrag{middle, "", 100, 3, 50, 70};
         QTest::newRow("middle right") << SpinDrag{middle, "", 100, 3, 64, 112};
         QTest::newRow("middle still") << SpinDrag{middle, "", 100, 3, 60, 100};
@@ -145,14 +141,15 @@ private slots:
     void shouldDragValueWithMiddleButton()
     {
         QFETCH(SpinDrag, drag);
+        const auto [button, state, start, step, toX, expected] = drag;
         QUxSpiner spin;
         spin.resize(200, 30);
-        spin.setValue(drag.start);
-        spin.setSingleStep(drag.step);
-        spin.setReadOnly(qstrcmp(drag.state, "read-only") == 0);
-        spin.setEnabled(qstrcmp(drag.state, "disabled") != 0);
-        dragWith(spin, drag.button, 60, drag.toX);
-        QCOMPARE(spin.value(), drag.expected);
+        spin.setValue(start);
+        spin.setSingleStep(step);
+        spin.setReadOnly(qstrcmp(state, "read-only") == 0);
+        spin.setEnabled(qstrcmp(state, "disabled") != 0);
+        dragWith(spin, button, 60, toX);
+        QCOMPARE(spin.value(), expected);
     }
 
     void shouldStepFromContextMenu()

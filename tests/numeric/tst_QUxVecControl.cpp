@@ -66,15 +66,9 @@ QStringList nonZeroComponents(QUxWheelVectorControl* control)
     return components;
 }
 
-/// A user's entry in one component's field; a relative entry (op >= 0) is reported, not applied.
-struct Entry
-{
-    int size, axis;
-    const char* text;
-    int op;
-    double amount;
-    const char* change;
-};
+/// A user's entry in one component's field: control size, axis, text, relative operator (-1 for none), its amount
+/// and the change reported otherwise. A relative entry is reported, not applied.
+using Entry = std::tuple<int, int, const char*, int, double, const char*>;
 
 } // namespace
 
@@ -134,7 +128,6 @@ private slots:
     void shouldRelayTypedEntryWithAxis_data()
     {
         QTest::addColumn<Entry>("entry");
-        // size, axis, text, relative operator, amount, change reported
         QTest::newRow("3: expression in y") << Entry{3, 1, "2*3+1", -1, 0, "Y=7"};
         QTest::newRow("2: number in x") << Entry{2, 0, "3", -1, 0, "X=3"};
         QTest::newRow("3: add to z") << Entry{3, 2, "+=2", QUxDoubleSpiner::RelativeAdd, 2, nullptr};
@@ -145,24 +138,25 @@ private slots:
     void shouldRelayTypedEntryWithAxis()
     {
         QFETCH(Entry, entry);
-        const auto control = makeControl(entry.size);
+        const auto [size, axis, text, op, amount, change] = entry;
+        const auto control = makeControl(size);
         control->show();
-        control->wheelPrec(entry.axis)->setValue(1.0);
-        if (entry.op >= 0)
+        control->wheelPrec(axis)->setValue(1.0);
+        if (op >= 0)
             control->setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
         QSignalSpy relative(control.get(), SIGNAL(relativeOperatorApplied(int, RelativeOperator, double)));
         QVERIFY(relative.isValid());
         QSignalSpy finished(control.get(), &QUxWheelVectorControl::editingFinished);
         ChangeLog log(control.get());
-        uxTest::typeAndCommit(control->wheelPrec(entry.axis), QString::fromLatin1(entry.text));
+        uxTest::typeAndCommit(control->wheelPrec(axis), QString::fromLatin1(text));
         QVERIFY(finished.count() >= 1);
-        if (entry.op < 0) {
-            QCOMPARE(log.entries, QStringList{QString::fromLatin1(entry.change)});
+        if (op < 0) {
+            QCOMPARE(log.entries, QStringList{QString::fromLatin1(change)});
             QCOMPARE(relative.count(), 0);
             return;
         }
-        QCOMPARE(relative, QList<QVariantList>({{entry.axis, QVariant::fromValue(Operator(entry.op)), entry.amount}}));
-        QCOMPARE(control->wheelPrec(entry.axis)->value(), 1.0); // the host applies it to its selection
+        QCOMPARE(relative, QList<QVariantList>({{axis, QVariant::fromValue(Operator(op)), amount}}));
+        QCOMPARE(control->wheelPrec(axis)->value(), 1.0); // the host applies it to its selection
         QCOMPARE(log.entries, QStringList());
     }
 

@@ -22,14 +22,9 @@ double columnLightness(const QImage& image, int x)
     return sum / image.height();
 }
 
-/// One drag across a wheel with range 0 to 360; a vertical wheel is dragged along y and sideways by 8 pixels.
-struct DragCase
-{
-    bool vertical, wraps, ignore;
-    double start, step;
-    int from, to;
-    double expected;
-};
+/// One drag across a wheel with range 0 to 360: vertical (dragged along y and sideways by 8 pixels), wraps, ignores
+/// the range, start value, single step, from and to pixel, expected value.
+using DragCase = std::tuple<bool, bool, bool, double, double, int, int, double>;
 
 /// Orientation, key, start value, expected value.
 using KeyCase = std::tuple<Qt::Orientation, int, double, double>;
@@ -119,8 +114,7 @@ private slots:
 
     void shouldApplyRangeRuleToDrag_data()
     {
-        QTest::addColumn<DragCase>("drag");
-        // vertical, wraps, ignore range, start, step, from, to, expected
+        QTest::addColumn<DragCase>("dragCase");
         QTest::newRow("inside range") << DragCase{false, false, false, 10.0, 0.5, 20, 30, 15.0};
         QTest::newRow("leftwards") << DragCase{false, false, false, 10.0, 0.5, 30, 20, 5.0};
         QTest::newRow("clamped at maximum") << DragCase{false, false, false, 350.0, 1.0, 10, 40, 360.0};
@@ -136,23 +130,24 @@ private slots:
 
     void shouldApplyRangeRuleToDrag()
     {
-        QFETCH(DragCase, drag);
+        QFETCH(DragCase, dragCase);
+        const auto [vertical, wraps, ignore, start, step, from, to, expected] = dragCase;
         QUxWheel wheel;
-        wheel.setOrientation(drag.vertical ? Qt::Vertical : Qt::Horizontal);
-        wheel.resize(drag.vertical ? QSize(20, 130) : QSize(130, 20));
+        wheel.setOrientation(vertical ? Qt::Vertical : Qt::Horizontal);
+        wheel.resize(vertical ? QSize(20, 130) : QSize(130, 20));
         wheel.setRange(0.0, 360.0);
-        wheel.setWrapsAround(drag.wraps);
-        wheel.setIgnoreRange(drag.ignore);
-        wheel.setSingleStep(drag.step);
-        wheel.setValue(drag.start);
+        wheel.setWrapsAround(wraps);
+        wheel.setIgnoreRange(ignore);
+        wheel.setSingleStep(step);
+        wheel.setValue(start);
         QSignalSpy spy(&wheel, &QUxWheel::valueChanged);
-        if (drag.vertical)
-            uxTest::drag(&wheel, QPoint(10, drag.from), QPoint(2, drag.to));
+        if (vertical)
+            drag(&wheel, QPoint(10, from), QPoint(2, to));
         else
-            uxTest::drag(&wheel, QPoint(drag.from, 10), QPoint(drag.to, 10));
-        QCOMPARE(wheel.value(), drag.expected);
+            drag(&wheel, QPoint(from, 10), QPoint(to, 10));
+        QCOMPARE(wheel.value(), expected);
         QVERIFY(!spy.isEmpty());
-        QCOMPARE(spy.last().at(0).toDouble(), drag.expected);
+        QCOMPARE(spy.last().at(0).toDouble(), expected);
     }
 
     void shouldReportIncrementsInRelativeMode()

@@ -24,14 +24,10 @@ void layOut(QUxWheelPrec& control)
     control.layout()->activate();
 }
 
-/// One drag across the wheel of a control with range 0 to 100.
-struct DragCase
-{
-    enum Mode { Absolute, Relative, ReadOnly } mode;
-    double step, start;
-    int fromX, toX;
-    double expected; // the new value, or in relative mode the start plus the reported increment
-};
+enum DragMode { Absolute, Relative, ReadOnly };
+/// One drag across the wheel of a control with range 0 to 100: mode, single step, start value, from and to x, and
+/// the new value, or in relative mode the start plus the reported increment.
+using DragCase = std::tuple<DragMode, double, double, int, int, double>;
 
 } // namespace
 
@@ -198,40 +194,39 @@ private slots:
     void shouldDriveFieldWithWheelDrag_data()
     {
         QTest::addColumn<DragCase>("drag");
-        // mode, step, start, from, to, expected
-        QTest::newRow("ten pixels right at 0.5") << DragCase{DragCase::Absolute, 0.5, 10.0, 20, 30, 15.0};
-        QTest::newRow("ten pixels left at 0.5") << DragCase{DragCase::Absolute, 0.5, 10.0, 30, 20, 5.0};
-        QTest::newRow("fine step") << DragCase{DragCase::Absolute, 0.01, 1.0, 5, 30, 1.25};
-        QTest::newRow("clamped at maximum") << DragCase{DragCase::Absolute, 1.0, 98.0, 10, 30, 100.0};
-        QTest::newRow("clamped at minimum") << DragCase{DragCase::Absolute, 1.0, 2.0, 30, 10, 0.0};
-        QTest::newRow("relative rightwards") << DragCase{DragCase::Relative, 0.5, 3.0, 20, 30, 8.0};
-        QTest::newRow("relative leftwards") << DragCase{DragCase::Relative, 0.5, 3.0, 30, 20, -2.0};
-        QTest::newRow("read-only field") << DragCase{DragCase::ReadOnly, 1.0, 4.0, 10, 30, 4.0};
+        QTest::newRow("ten pixels right at 0.5") << DragCase{Absolute, 0.5, 10.0, 20, 30, 15.0};
+        QTest::newRow("ten pixels left at 0.5") << DragCase{Absolute, 0.5, 10.0, 30, 20, 5.0};
+        QTest::newRow("fine step") << DragCase{Absolute, 0.01, 1.0, 5, 30, 1.25};
+        QTest::newRow("clamped at maximum") << DragCase{Absolute, 1.0, 98.0, 10, 30, 100.0};
+        QTest::newRow("clamped at minimum") << DragCase{Absolute, 1.0, 2.0, 30, 10, 0.0};
+        QTest::newRow("relative rightwards") << DragCase{Relative, 0.5, 3.0, 20, 30, 8.0};
+        QTest::newRow("relative leftwards") << DragCase{Relative, 0.5, 3.0, 30, 20, -2.0};
+        QTest::newRow("read-only field") << DragCase{ReadOnly, 1.0, 4.0, 10, 30, 4.0};
     }
 
     void shouldDriveFieldWithWheelDrag()
     {
         QFETCH(DragCase, drag);
+        const auto [mode, step, start, fromX, toX, expected] = drag;
         QUxWheelPrec control;
         layOut(control);
         control.setRange(0.0, 100.0);
-        control.setSingleStep(drag.step);
-        control.setValue(drag.start);
-        control.spiner()->setReadOnly(drag.mode == DragCase::ReadOnly);
-        if (drag.mode == DragCase::Relative)
+        control.setSingleStep(step);
+        control.setValue(start);
+        control.spiner()->setReadOnly(mode == ReadOnly);
+        if (mode == Relative)
             control.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
         QSignalSpy spy(&control, &QUxWheelPrec::valueChanged);
         QSignalSpy relative(&control, &QUxWheelPrec::relativeOperatorApplied);
         QSignalSpy pressed(&control, &QUxWheelPrec::sliderPressed);
         QSignalSpy released(&control, &QUxWheelPrec::sliderReleased);
         QSignalSpy buttonPressed(&control, &QUxWheelPrec::mouseButtonPressed);
-        uxTest::drag(control.wheel(), QPoint(drag.fromX, 5), QPoint(drag.toX, 5));
+        uxTest::drag(control.wheel(), QPoint(fromX, 5), QPoint(toX, 5));
         QCOMPARE((QList<int>{pressed.count(), released.count(), buttonPressed.count()}), (QList<int>{1, 1, 0}));
-        const bool relays = drag.mode == DragCase::Relative;
-        QCOMPARE(control.value(), relays ? drag.start : drag.expected);
-        QCOMPARE(relative,
-                 relays ? relayed(QUxDoubleSpiner::RelativeAdd, drag.expected - drag.start) : QList<QVariantList>());
-        QCOMPARE(spy, drag.mode == DragCase::Absolute ? QList<QVariantList>{{drag.expected}} : QList<QVariantList>());
+        const bool relays = mode == Relative;
+        QCOMPARE(control.value(), relays ? start : expected);
+        QCOMPARE(relative, relays ? relayed(QUxDoubleSpiner::RelativeAdd, expected - start) : QList<QVariantList>());
+        QCOMPARE(spy, mode == Absolute ? QList<QVariantList>{{expected}} : QList<QVariantList>());
     }
 
     void shouldStepFieldByMouseWheelOverWheel()
