@@ -25,13 +25,14 @@ void layOut(QUxWheelPrec& control)
 }
 
 enum DragMode { Absolute, Relative, ReadOnly };
-/// One drag across the wheel of a control with range 0 to 100: mode, single step, start value, from and to x, and
-/// the new value, or in relative mode the start plus the reported increment.
-using DragCase = std::tuple<DragMode, double, double, int, int, double>;
+/// One drag across the wheel of a control with range 0 to 100, or a turn of it: mode, single step, start value,
+/// from and to x of a drag, delta of a turn (0 for a drag), and the new value, or in relative mode the start plus
+/// the reported increment.
+using WheelCase = std::tuple<DragMode, double, double, int, int, int, double>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(DragCase)
+Q_DECLARE_METATYPE(WheelCase)
 
 class tst_QUxWheelPrec : public QObject
 {
@@ -191,23 +192,26 @@ private slots:
                  expected == step ? QList<QVariantList>{{step}} : QList<QVariantList>()); // a refused step is silent
     }
 
-    void shouldDriveFieldWithWheelDrag_data()
+    void shouldDriveFieldWithWheelDragOrTurn_data()
     {
-        QTest::addColumn<DragCase>("drag");
-        QTest::newRow("ten pixels right at 0.5") << DragCase{Absolute, 0.5, 10.0, 20, 30, 15.0};
-        QTest::newRow("ten pixels left at 0.5") << DragCase{Absolute, 0.5, 10.0, 30, 20, 5.0};
-        QTest::newRow("fine step") << DragCase{Absolute, 0.01, 1.0, 5, 30, 1.25};
-        QTest::newRow("clamped at maximum") << DragCase{Absolute, 1.0, 98.0, 10, 30, 100.0};
-        QTest::newRow("clamped at minimum") << DragCase{Absolute, 1.0, 2.0, 30, 10, 0.0};
-        QTest::newRow("relative rightwards") << DragCase{Relative, 0.5, 3.0, 20, 30, 8.0};
-        QTest::newRow("relative leftwards") << DragCase{Relative, 0.5, 3.0, 30, 20, -2.0};
-        QTest::newRow("read-only field") << DragCase{ReadOnly, 1.0, 4.0, 10, 30, 4.0};
+        QTest::addColumn<WheelCase>("wheelCase");
+        QTest::newRow("ten pixels right at 0.5") << WheelCase{Absolute, 0.5, 10.0, 20, 30, 0, 15.0};
+        QTest::newRow("ten pixels left at 0.5") << WheelCase{Absolute, 0.5, 10.0, 30, 20, 0, 5.0};
+        QTest::newRow("fine step") << WheelCase{Absolute, 0.01, 1.0, 5, 30, 0, 1.25};
+        QTest::newRow("clamped at maximum") << WheelCase{Absolute, 1.0, 98.0, 10, 30, 0, 100.0};
+        QTest::newRow("clamped at minimum") << WheelCase{Absolute, 1.0, 2.0, 30, 10, 0, 0.0};
+        QTest::newRow("relative rightwards") << WheelCase{Relative, 0.5, 3.0, 20, 30, 0, 8.0};
+        QTest::newRow("relative leftwards") << WheelCase{Relative, 0.5, 3.0, 30, 20, 0, -2.0};
+        QTest::newRow("read-only field") << WheelCase{ReadOnly, 1.0, 4.0, 10, 30, 0, 4.0};
+        QTest::newRow("turn a notch up") << WheelCase{Absolute, 0.25, 1.0, 0, 0, 120, 1.5};
+        QTest::newRow("turn two notches down") << WheelCase{Absolute, 0.25, 1.5, 0, 0, -240, 0.5};
+        QTest::newRow("relative turn") << WheelCase{Relative, 0.5, 0.5, 0, 0, 120, 1.5};
     }
 
-    void shouldDriveFieldWithWheelDrag()
+    void shouldDriveFieldWithWheelDragOrTurn()
     {
-        QFETCH(DragCase, drag);
-        const auto [mode, step, start, fromX, toX, expected] = drag;
+        QFETCH(WheelCase, wheelCase);
+        const auto [mode, step, start, fromX, toX, delta, expected] = wheelCase;
         QUxWheelPrec control;
         layOut(control);
         control.setRange(0.0, 100.0);
@@ -221,34 +225,16 @@ private slots:
         QSignalSpy pressed(&control, &QUxWheelPrec::sliderPressed);
         QSignalSpy released(&control, &QUxWheelPrec::sliderReleased);
         QSignalSpy buttonPressed(&control, &QUxWheelPrec::mouseButtonPressed);
-        uxTest::drag(control.wheel(), QPoint(fromX, 5), QPoint(toX, 5));
-        QCOMPARE((QList<int>{pressed.count(), released.count(), buttonPressed.count()}), (QList<int>{1, 1, 0}));
+        if (delta)
+            uxTest::turnWheel(control.wheel(), delta);
+        else
+            uxTest::drag(control.wheel(), QPoint(fromX, 5), QPoint(toX, 5));
+        const int drags = delta ? 0 : 1;
+        QCOMPARE((QList<int>{pressed.count(), released.count(), buttonPressed.count()}), (QList<int>{drags, drags, 0}));
         const bool relays = mode == Relative;
         QCOMPARE(control.value(), relays ? start : expected);
         QCOMPARE(relative, relays ? relayed(QUxDoubleSpiner::RelativeAdd, expected - start) : QList<QVariantList>());
         QCOMPARE(spy, mode == Absolute ? QList<QVariantList>{{expected}} : QList<QVariantList>());
-    }
-
-    void shouldStepFieldByMouseWheelOverWheel()
-    {
-        QUxWheelPrec control;
-        layOut(control);
-        control.setSingleStep(0.25);
-        control.setValue(1.0);
-        uxTest::turnWheel(control.wheel(), 120);
-        QCOMPARE(control.value(), 1.5);
-        uxTest::turnWheel(control.wheel(), -240);
-        QCOMPARE(control.value(), 0.5);
-
-        // In relative mode the turn is reported as an addition instead.
-        control.setSingleStep(0.5);
-        control.setRelativeOperatorHandlingMode(QUxDoubleSpiner::EmitRelativeOperator);
-        QSignalSpy relative(&control, &QUxWheelPrec::relativeOperatorApplied);
-        QSignalSpy changed(&control, &QUxWheelPrec::valueChanged);
-        uxTest::turnWheel(control.wheel(), 120);
-        QCOMPARE(relative, relayed(QUxDoubleSpiner::RelativeAdd, 1.0));
-        QCOMPARE(control.value(), 0.5);
-        QCOMPARE(changed.count(), 0);
     }
 
     void shouldRelayFieldMouseButtonsAndFocusGained()
