@@ -25,7 +25,9 @@ configure: deps
 build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
+# The plain run also compiles the benchmarks, so that they cannot rot unnoticed.
 test: build
+	$(if $(SANITIZE),,cmake --build $(BUILD) -j $(JOBS) --target benchmarks)
 	@scripts/run-tests $(BUILD) $(JOBS)
 
 gallery: configure
