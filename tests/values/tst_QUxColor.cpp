@@ -5,16 +5,6 @@
 
 #include <cmath>
 
-// Hosts call these through pointers and overloads: the QColor getters are
-// non-const, the clamping helpers take floats by const reference.
-static_assert(std::is_same_v<decltype(&QUxColor::getQColor), QColor (QUxColor::*)()>);
-static_assert(std::is_same_v<decltype(&QUxColor::getClampedQColor), QColor (QUxColor::*)()>);
-static_assert(std::is_same_v<decltype(&QUxColor::getGammaQColor), QColor (QUxColor::*)()>);
-static_assert(std::is_same_v<decltype(&QUxColor::getGammaColor), QUxColor (QUxColor::*)() const>);
-static_assert(std::is_same_v<decltype(&QUxColor::getClamped8Bit), int (*)(const float&)>);
-static_assert(std::is_same_v<decltype(&QUxColor::getClamped), float (*)(const float&)>);
-static_assert(std::is_same_v<decltype(&QUxColor::clampRGB8Bit), void (*)(int&, int&, int&)>);
-
 namespace {
 using V = QVector3D;
 constexpr float kTight = 1e-5f;
@@ -81,7 +71,6 @@ private slots:
         QTest::newRow("black") << V(0, 0, 0) << V(0, 0, 0);
         QTest::newRow("pastel, half saturation") << V(0.8f, 0.4f, 0.4f) << V(0, 0.5f, 0.8f);
         QTest::newRow("hdr above one") << V(4, 2, 2) << V(0, 0.5f, 4);
-        QTest::newRow("hdr value kept") << V(0, 3, 0) << V(120, 1, 3);
     }
 
     void shouldConvertBetweenRgbAndHsv()
@@ -112,8 +101,7 @@ private slots:
         // 5.999833 sectors: f = 0.999833, so blue = 1 - 0.999833 = 0.000167.
         for (float hue : {360.f, 720.f, 359.99f}) {
             const V rgb = get(fromHsv({hue, 1, 1}), &QUxColor::getRGB);
-            QCOMPARE(rgb.x(), 1.f);
-            QCOMPARE(rgb.y(), 0.f);
+            QCOMPARE(QPointF(rgb.x(), rgb.y()), QPointF(1, 0));
             QVERIFY2(rgb.z() > 0.f && rgb.z() < 0.001f, qPrintable(QString::number(rgb.z())));
         }
         QUxColor negative = fromHsv({-30, 1, 1});
@@ -235,8 +223,7 @@ private slots:
         const V gammaHsv = get(c, &QUxColor::getGammaHSV);
         QVERIFY(near(gammaHsv.z(), 0.735357f, 1e-5f));
         const QUxColor gamma = c.getGammaColor();
-        QCOMPARE(gamma.getValue(), gammaHsv.z());
-        QCOMPARE(gamma.getHue(), gammaHsv.x());
+        QCOMPARE(get(gamma, &QUxColor::getHSV), gammaHsv);
 
         // The gamma setters take their linear-RGB argument as encoded.
         QUxColor decoded, viaRgb;
@@ -251,7 +238,6 @@ private slots:
         QUxColor grey(0.5f, 0.5f, 0.5f);
         QCOMPARE(grey.getGammaQColor(), QColor(187, 187, 187));
         QCOMPARE(grey.getQColor(), QColor(127, 127, 127));
-        QCOMPARE(QUxColor(1.f, 1.f, 1.f).getGammaQColor(), QColor(255, 255, 255));
         QCOMPARE(fromHsv({240, 1, 1}).getGammaQColor(), QColor(0, 0, 255));
         QUxColor::s_useGamma = false;
         QCOMPARE(grey.getGammaQColor(), grey.getQColor());
@@ -263,7 +249,6 @@ private slots:
         QTest::addColumn<int>("expected8Bit");
         QTest::addColumn<float>("expectedUnit");
         QTest::newRow("negative") << -0.1f << 0 << 0.f;
-        QTest::newRow("zero") << 0.f << 0 << 0.f;
         QTest::newRow("half truncates") << 0.5f << 127 << 0.5f;
         QTest::newRow("0.999 truncates") << 0.999f << 254 << 0.999f;
         QTest::newRow("one") << 1.f << 255 << 1.f;
@@ -315,11 +300,9 @@ private slots:
     {
         QUxColor blackA = fromHsv({0, 0, 0}), blackB = fromHsv({200, 0, 0});
         QCOMPARE(blackA.getQColor(), blackB.getQColor());
-        QVERIFY(blackA != blackB);
-        QVERIFY(!(blackA == blackB));
+        QVERIFY(blackA != blackB && !(blackA == blackB));
         const QUxColor nan = fromHsv({std::nanf(""), 0, 0});
-        QVERIFY(!(nan == nan));
-        QVERIFY(nan != nan);
+        QVERIFY(nan != nan && !(nan == nan));
     }
 
     void shouldStartWithDocumentedClassWideSettings()

@@ -53,23 +53,18 @@ private slots:
         QCOMPARE(v2, QUxIntVector2D(0, 9));
         QCOMPARE(v3, QUxIntVector3D(1, 2, 3));
         QCOMPARE(v4, QUxIntVector4D(1, 2, 3, 4));
-        QCOMPARE(v2.setX(5).getX(), 5);
         QVERIFY(&v2.setValue({7, 8}) == &v2 && v2 == QUxIntVector2D(7, 8));
         QVERIFY(&v3.setValue({7, 8, 9}) == &v3 && v3 == QUxIntVector3D(7, 8, 9));
         QVERIFY(&v4.setValue({7, 8, 9, 10}) == &v4 && v4 == QUxIntVector4D(7, 8, 9, 10));
     }
 
-    void shouldConvertBetweenSizes()
+    void shouldConvertBetweenSizesAndCompareComponentWise()
     {
         const QUxIntVector4D v4(1, 2, 3, 4);
         QCOMPARE(QUxIntVector2D(v4), QUxIntVector2D(1, 2));
         QCOMPARE(QUxIntVector3D(v4), QUxIntVector3D(1, 2, 3));
         QCOMPARE(QUxIntVector2D(QUxIntVector3D(5, 6, 7)), QUxIntVector2D(5, 6));
         QCOMPARE(QUxIntVector3D(QUxIntVector2D(5, 6)), QUxIntVector3D(5, 6, 0));
-    }
-
-    void shouldCompareComponentWise()
-    {
         QVERIFY(comparesComponentWise(QUxIntVector2D(1, 2), 2));
         QVERIFY(comparesComponentWise(QUxIntVector3D(1, 2, 3), 3));
         QVERIFY(comparesComponentWise(QUxIntVector4D(1, 2, 3, 4), 4));

@@ -69,7 +69,6 @@ private slots:
         QTest::addColumn<QStringList>("sorted");
         const QLocale c = QLocale::c();
         QTest::newRow("empty") << c << QStringList() << QStringList();
-        QTest::newRow("single") << c << QStringList{"b10"} << QStringList{"b10"};
         QTest::newRow("numbers by value")
             << c << QStringList{"item10", "item2", "item1"} << QStringList{"item1", "item2", "item10"};
         QTest::newRow("prefix then number") << c << QStringList{"part 3", "body 12", "part 20", "body 2"}
@@ -89,7 +88,7 @@ private slots:
         QCOMPARE(input, sorted);
     }
 
-    void shouldShowWaitCursorWhileAliveAndNest()
+    void shouldShowWaitCursorWhileAliveOrParentedAndNest()
     {
         QApplication::setOverrideCursor(Qt::CrossCursor);
         {
@@ -104,10 +103,7 @@ private slots:
         QCOMPARE(overrideShape(), Qt::CrossCursor);
         QApplication::restoreOverrideCursor();
         QVERIFY(!QApplication::overrideCursor()); // each wait cursor restored exactly once
-    }
 
-    void shouldRestoreWaitCursorWhenParentDies()
-    {
         auto* owner = new QObject;
         new uxWaitCursor(owner);
         QCOMPARE(overrideShape(), Qt::WaitCursor);
