@@ -96,10 +96,7 @@ private slots:
         QCOMPARE(control.value(), QVector4D(5, 5, 5, 5));
         control.setValue(QVector4D(50, 50, 50, 50));
         QCOMPARE(control.value(), QVector4D(10, 20, 30, 40));
-    }
 
-    void shouldPassIntegerRangesAndStepsToEveryComponent()
-    {
         QUxIntVector4DSlider sliders;
         sliders.setMinimum(QUxIntVector4D(1, 2, 3, 4));
         sliders.setMaximum(QUxIntVector4D(10, 20, 30, 40));
@@ -133,7 +130,7 @@ private slots:
         QCOMPARE(field(1)->displayDecimals(), 2);
     }
 
-    void shouldShowOnlyNonEmptySubLabels()
+    void shouldBuildAllComponentsForEverySizeAndShowOnlyNonEmptySubLabels()
     {
         QUxVec3SliderControl control;
         control.show();
@@ -144,10 +141,7 @@ private slots:
         control.setSubLabels({QStringLiteral("R"), QString(), QStringLiteral("B")});
         QCOMPARE(control.subLabels(), (QStringList{"R", "", "B"}));
         QCOMPARE(std::count_if(labels.begin(), labels.end(), [](QLabel* l) { return l->isVisible(); }), 2);
-    }
 
-    void shouldBuildAllComponentsForEverySize()
-    {
         QUxVec2SliderControl two;
         QUxIntVector4DSlider four;
         QVERIFY(two.isValid() && four.isValid() && QUxIntVector2DSpiner().isValid());

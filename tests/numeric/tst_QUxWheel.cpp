@@ -14,14 +14,6 @@ using uxTest::drag;
 using uxTest::moveMouse;
 using uxTest::turnWheel;
 
-double columnLightness(const QImage& image, int x)
-{
-    double sum = 0;
-    for (int y = 0; y < image.height(); ++y)
-        sum += QColor(image.pixel(x, y)).lightnessF();
-    return sum / image.height();
-}
-
 /// One drag across a wheel with range 0 to 360: vertical (dragged along y and sideways by 8 pixels), wraps, ignores
 /// the range, start value, single step, from and to pixel, expected value.
 using DragCase = std::tuple<bool, bool, bool, double, double, int, int, double>;
@@ -57,9 +49,12 @@ private slots:
         QCOMPARE((QList<double>{wheel.value(), wheel.minimum(), wheel.maximum(), wheel.singleStep(),
                                 wheel.transmissionRatio()}),
                  (QList<double>{0.0, -IntRange, IntRange, 1.0, 1.0}));
+        wheel.setCogCount(0);
+        wheel.setCogCount(-4); // below one is ignored
         QCOMPARE(wheel.cogCount(), 17);
+        wheel.setCogCount(1);
+        QCOMPARE(wheel.cogCount(), 1);
         QVERIFY(!wheel.limitedDrag() && !wheel.wrapsAround() && !wheel.ignoreRange() && !wheel.emitsRelativeValue());
-        QCOMPARE(wheel.orientation(), Qt::Horizontal);
         const QMetaProperty user = wheel.metaObject()->userProperty();
         QCOMPARE(user.name(), "value");
         QCOMPARE(user.notifySignal().methodSignature(), QByteArray("valueChanged(double)"));
@@ -69,16 +64,13 @@ private slots:
                  (QList<double>{-2147483647.0, -2147483648.0, 42.0, 1.0}));
         QCOMPARE(std::make_pair(six.pageStep(), six.QAbstractSlider::singleStep()), std::make_pair(25, 1));
         QVERIFY(six.limitedDrag());
-        QCOMPARE(six.orientation(), Qt::Vertical);
+        QCOMPARE(std::make_pair(wheel.orientation(), six.orientation()), std::make_pair(Qt::Horizontal, Qt::Vertical));
 
         QUxWheel sixHorizontal(0, 0, 10, 50, Qt::Horizontal);
-        for (const QUxWheel* w : {&wheel, &six, &sixHorizontal}) {
-            const bool horizontal = w != &six;
-            QCOMPARE(w->sizePolicy().horizontalPolicy(), horizontal ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-            QCOMPARE(w->sizePolicy().verticalPolicy(), horizontal ? QSizePolicy::Fixed : QSizePolicy::Expanding);
-            QCOMPARE(w->focusPolicy(), Qt::WheelFocus);
-            QVERIFY(w->testAttribute(Qt::WA_OpaquePaintEvent));
-        }
+        const QSizePolicy across(QSizePolicy::Expanding, QSizePolicy::Fixed), upright(across.transposed());
+        QCOMPARE((QList<QSizePolicy>{wheel.sizePolicy(), six.sizePolicy(), sixHorizontal.sizePolicy()}),
+                 (QList<QSizePolicy>{across, upright, across}));
+        QVERIFY(wheel.focusPolicy() == Qt::WheelFocus && six.focusPolicy() == Qt::WheelFocus);
         // Until the host sets a range, every drag clamps to the inverted range's minimum.
         sixHorizontal.resize(130, 20);
         drag(&sixHorizontal, QPoint(10, 10), QPoint(60, 10));
@@ -88,9 +80,9 @@ private slots:
         QCOMPARE(sixHorizontal.value(), 0.0);
     }
 
-    void shouldStoreValueUnclampedEmitEveryTimeAndMirrorItInBase()
+    void shouldStoreValueUnclampedUntilNextDragStepEmitEveryTimeAndMirrorItInBase()
     {
-        QUxWheel wheel;
+        Wheel wheel;
         wheel.setRange(0.0, 10.0);
         QSignalSpy spy(&wheel, &QUxWheel::valueChanged);
         QSignalSpy baseSpy(&wheel, &QAbstractSlider::valueChanged);
@@ -107,6 +99,10 @@ private slots:
         static_cast<QAbstractSlider&>(wheel).setValue(42); // a host driving the base
         QCOMPARE(wheel.value(), 42.0);
         QCOMPARE(spy, QList<QVariantList>({{25.5}, {25.5}, {42.0}}));
+        turnWheel(&wheel, 240); // two notches of the page step 10 lead further out of the range
+        QCOMPARE(wheel.value(), 46.0);
+        drag(&wheel, QPoint(50, 10), QPoint(50, 10));
+        QCOMPARE(wheel.value(), 40.0);
         wheel.setSingleStep(2.75);
         QCOMPARE(std::make_pair(wheel.singleStep(), wheel.QAbstractSlider::singleStep()), std::make_pair(2.75, 2));
         QCOMPARE(steps, QList<QVariantList>{{2.75}});
@@ -158,9 +154,7 @@ private slots:
         wheel.setValue(7.0);
         QSignalSpy added(&wheel, &QUxWheel::valueAdded);
         QSignalSpy changed(&wheel, &QUxWheel::valueChanged);
-        const QImage before = uxTest::grab(&wheel);
         drag(&wheel, QPoint(10, 10), QPoint(25, 10));
-        QVERIFY(uxTest::grab(&wheel) != before); // the ribs follow the hand even though the value stays
         QCOMPARE(wheel.value(), 7.0);
         QCOMPARE(changed.count(), 0);
         // The release is a drag step of its own, reported even when it adds nothing.
@@ -246,45 +240,7 @@ private slots:
         QCOMPARE(spy.count(), 1);
     }
 
-    void shouldBringWheeledValueBackWithNextDragStep()
-    {
-        Wheel wheel;
-        wheel.setRange(0.0, 100.0);
-        wheel.setValue(99.0);
-        turnWheel(&wheel, 240);
-        QCOMPARE(wheel.value(), 103.0);
-        drag(&wheel, QPoint(50, 10), QPoint(50, 10));
-        QCOMPARE(wheel.value(), 100.0);
-    }
-
-    void shouldPaintOpaqueShadedWheelAndIgnoreCogCountBelowOne_data()
-    {
-        QTest::addColumn<int>("cogs");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("one rib") << 1 << 1;
-        QTest::newRow("zero ignored") << 0 << 17;
-        QTest::newRow("negative ignored") << -4 << 17;
-    }
-
-    void shouldPaintOpaqueShadedWheelAndIgnoreCogCountBelowOne()
-    {
-        QFETCH(int, cogs);
-        QFETCH(int, expected);
-        Wheel wheel;
-        wheel.setCogCount(cogs);
-        QCOMPARE(wheel.cogCount(), expected);
-        const QImage image = uxTest::grab(&wheel);
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                QCOMPARE(qAlpha(image.pixel(x, y)), 255);
-        // the ends turn away from the light
-        const double middle =
-            (columnLightness(image, 60) + columnLightness(image, 65) + columnLightness(image, 70)) / 3;
-        QVERIFY(columnLightness(image, 5) < middle - 0.2);
-        QVERIFY(columnLightness(image, 124) < middle - 0.2);
-    }
-
-    void shouldHintSizeByOrientationAndMoveRibsWithValue_data()
+    void shouldHintSizeByOrientationAndPaintEveryPixelFollowingValue_data()
     {
         QTest::addColumn<Qt::Orientation>("orientation");
         QTest::addColumn<QSize>("hint");
@@ -293,7 +249,7 @@ private slots:
         QTest::newRow("vertical") << Qt::Vertical << QSize(20, 130) << QSize(30, 260);
     }
 
-    void shouldHintSizeByOrientationAndMoveRibsWithValue()
+    void shouldHintSizeByOrientationAndPaintEveryPixelFollowingValue()
     {
         QFETCH(Qt::Orientation, orientation);
         QFETCH(QSize, hint);
@@ -303,33 +259,13 @@ private slots:
         QCOMPARE(wheel.sizeHint(), hint);
         wheel.resize(hint);
         const QImage atZero = uxTest::grab(&wheel);
+        for (int y = 0; y < atZero.height(); ++y)
+            for (int x = 0; x < atZero.width(); ++x)
+                QCOMPARE(qAlpha(atZero.pixel(x, y)), 255);
         wheel.setValue(3.0);
-        QVERIFY(uxTest::grab(&wheel) != atZero);
-        wheel.setValue(0.0);
-        QCOMPARE(uxTest::grab(&wheel), atZero);
-        wheel.setCogCount(5);
         QVERIFY(uxTest::grab(&wheel) != atZero);
         uxPlatform::setDpiScale(1.5, 2.0);
         QCOMPARE(wheel.sizeHint(), scaledHint);
-    }
-
-    void shouldPaintPressedAndFocusLooks()
-    {
-        Wheel wheel;
-        const QImage idle = uxTest::grab(&wheel);
-        QTest::mousePress(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
-        const QImage pressed = uxTest::grab(&wheel);
-        QTest::mouseRelease(&wheel, Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
-        QVERIFY(pressed != idle);
-        QCOMPARE(uxTest::grab(&wheel), idle);
-
-        wheel.show();
-        QApplication::setActiveWindow(&wheel);
-        wheel.setFocus();
-        QTRY_VERIFY(wheel.hasFocus());
-        const QColor highlight = wheel.palette().color(QPalette::Active, QPalette::Highlight);
-        QVERIFY(uxTest::sameColor(uxTest::grab(&wheel).pixelColor(65, 0), highlight, 60));
-        QVERIFY(!uxTest::sameColor(idle.pixelColor(65, 0), highlight, 60));
     }
 };
 
