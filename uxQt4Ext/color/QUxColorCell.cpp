@@ -48,13 +48,15 @@ int QUxColorCell::index() const { return d->index; }
 
 QUxColorArray* QUxColorCell::colorArray() const { return d->array; }
 
-bool QUxColorCell::isCurrent() const { return d->array->currentIndex() == d->index; }
+bool QUxColorCell::isCurrent() const { return d->array && d->array->currentIndex() == d->index; }
+
+bool QUxColorCell::holdsColor() const { return d->array && !d->array->isFreeCell(d->index); }
 
 void QUxColorCell::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(isCurrent() ? Qt::red : Qt::black);
-    if (d->array->isFreeCell(d->index))
+    if (!holdsColor())
         painter.setBrush(QBrush(Qt::black, Qt::Dense4Pattern));
     else
         painter.setBrush(d->array->getColor(d->index).getGammaQColor());
@@ -70,7 +72,7 @@ void QUxColorCell::mousePressEvent(QMouseEvent* event)
 
 void QUxColorCell::mouseMoveEvent(QMouseEvent* event)
 {
-    if (d->array->isFreeCell(d->index) || d->pressPosition == noPress)
+    if (!holdsColor() || d->pressPosition == noPress)
         return;
     if ((event->pos() - d->pressPosition).manhattanLength() <= QApplication::startDragDistance())
         return;
@@ -84,7 +86,7 @@ void QUxColorCell::mouseReleaseEvent(QMouseEvent* event)
     d->pressPosition = noPress;
     const QPoint pos = event->pos();
     const bool inside = pos.x() >= 0 && pos.x() <= width() && pos.y() >= 0 && pos.y() <= height();
-    if (!inside)
+    if (!inside || !d->array)
         return;
     if (event->button() == Qt::RightButton)
         d->array->setCurrent(d->index);
@@ -94,7 +96,7 @@ void QUxColorCell::mouseReleaseEvent(QMouseEvent* event)
 
 void QUxColorCell::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!event->mimeData()->hasColor()) {
+    if (!event->mimeData()->hasColor() || !d->array) {
         event->ignore();
         return;
     }
@@ -104,7 +106,8 @@ void QUxColorCell::dragEnterEvent(QDragEnterEvent* event)
 
 void QUxColorCell::dropEvent(QDropEvent* event)
 {
-    if (!event->mimeData()->hasColor() || d->index >= QUxColorArray::s_cellData.size()) {
+    const bool inPalette = d->index >= 0 && d->index < QUxColorArray::s_cellData.size();
+    if (!event->mimeData()->hasColor() || !d->array || !inPalette) {
         event->ignore();
         return;
     }

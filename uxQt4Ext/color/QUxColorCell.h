@@ -37,6 +37,7 @@ protected:
 
 private:
     bool isCurrent() const;
+    bool holdsColor() const;
     void startDrag();
     QPixmap dragPixmap(const QColor& color) const;
 

@@ -9,6 +9,7 @@
 #include <QToolTip>
 #include <QtMath>
 
+#include <cfloat>
 #include <cmath>
 #include <vector>
 
@@ -366,6 +367,8 @@ public:
     void applyEdit(const QUxColor& edited, unsigned channels);
 
     static float channelOf(QUxColorField::Mode m, const QUxColor& c);
+    /// NaN as 0, infinities at the float limits: a constant channel is always a number.
+    static float storable(float channel) { return std::isnan(channel) ? 0.0f : qBound(-FLT_MAX, channel, FLT_MAX); }
     void setChannel(QUxColorField::Mode m, float v);
 
     QUxColor colorAt(const QPoint& pos) const;
@@ -652,7 +655,7 @@ QUxColorField::QUxColorField(float red, float green, float blue, QWidget* parent
     : QUxColorField(parent, name)
 {
     QUxColor::RGBtoHSV(red, green, blue, d->hue, d->saturation, d->value);
-    d->constant = QUxColorFieldPrivate::channelOf(d->mode, d->color());
+    d->constant = QUxColorFieldPrivate::storable(QUxColorFieldPrivate::channelOf(d->mode, d->color()));
 }
 
 QUxColorField::~QUxColorField() = default;
@@ -899,11 +902,10 @@ void QUxColorField::setMode(QUxColorField::Mode mode)
 
 void QUxColorField::setConstantChannel(float value)
 {
-    // NaN is replaced before the comparison: an undefined colour keeps
-    // reporting a NaN channel, and comparing that NaN would re-enter the
-    // channel setter without end.
-    if (std::isnan(value))
-        value = 0.0f;
+    // Replaced before the comparison: an undefined or unbounded colour keeps
+    // reporting such a channel, and a comparison that never holds would
+    // re-enter the channel setter without end.
+    value = QUxColorFieldPrivate::storable(value);
     if (qAbs(value - d->constant) <= kConstantTolerance)
         return;
     d->constant = value;

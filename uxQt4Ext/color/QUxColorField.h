@@ -41,7 +41,8 @@ class UXQT4EXT_EXPORT QUxColorField : public QWidget
 
 public:
     /// The channel held constant; the other two of its model span the plane.
-    enum Mode { Hue = 0, Saturation, Value, Red, Green, Blue, Lstar, Astar, Bstar };
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum Mode : int { Hue = 0, Saturation, Value, Red, Green, Blue, Lstar, Astar, Bstar };
     Q_ENUM(Mode)
 
     /// Mid grey (hue 0, saturation 0, value 0.5) in Hue mode.

@@ -29,9 +29,10 @@ class UXQT4EXT_EXPORT QUxLed : public QWidget
     Q_PROPERTY(ledShape onShape READ onShape WRITE setOnShape)
     Q_PROPERTY(ledShape offShape READ offShape WRITE setOffShape)
 public:
-    enum ledColor { RED = 0, GREEN, YELLOW, GREY, ORANGE, PURPLE, BLUE, BLACK, WHITE };
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum ledColor : int { RED = 0, GREEN, YELLOW, GREY, ORANGE, PURPLE, BLUE, BLACK, WHITE };
     Q_ENUM(ledColor)
-    enum ledShape { CIRCLE = 0, SQUARE, TRIANGLE, ROUNDED, TRIANGLE_R };
+    enum ledShape : int { CIRCLE = 0, SQUARE, TRIANGLE, ROUNDED, TRIANGLE_R };
     Q_ENUM(ledShape)
 
     explicit QUxLed(QWidget* parent = nullptr);

@@ -1,6 +1,7 @@
 #include "QUxWhiteBalance.h"
 
 #include "uxChildSignals_p.h"
+#include "uxLabelText_p.h"
 
 #include <uxPlatform.h>
 
@@ -26,6 +27,8 @@ public:
     QSlider* slider = nullptr;
     QLabel* trailer = nullptr;
     QLabel* epilog = nullptr;
+    QString trailerText;
+    QString epilogText;
     QSpinBox* spinBox = nullptr;
     QHBoxLayout* layout = nullptr;
 
@@ -51,6 +54,8 @@ void QUxWhiteBalance::init()
     d->spinBox = createSpinner();
     d->trailer = createLabel(tr("Cold"));
     d->epilog = createLabel(tr("Warm"));
+    d->trailerText = d->trailer->text();
+    d->epilogText = d->epilog->text();
     d->layout = createLayout();
     propagateLayout();
     stayInSync(d->slider, d->spinBox);
@@ -168,7 +173,18 @@ void QUxWhiteBalance::setTicks(SliderTicks ticks)
 
 QString QUxWhiteBalance::suffix() const { return d->spinBox->suffix(); }
 void QUxWhiteBalance::setSuffix(const QString& suffix) { d->spinBox->setSuffix(suffix); }
-QString QUxWhiteBalance::trailer() const { return d->trailer->text(); }
-void QUxWhiteBalance::setTrailer(const QString& text) { d->trailer->setText(text); }
-QString QUxWhiteBalance::epilog() const { return d->epilog->text(); }
-void QUxWhiteBalance::setEpilog(const QString& text) { d->epilog->setText(text); }
+QString QUxWhiteBalance::trailer() const { return d->trailerText; }
+
+void QUxWhiteBalance::setTrailer(const QString& text)
+{
+    d->trailerText = text;
+    d->trailer->setText(uxLabelText::shown(text));
+}
+
+QString QUxWhiteBalance::epilog() const { return d->epilogText; }
+
+void QUxWhiteBalance::setEpilog(const QString& text)
+{
+    d->epilogText = text;
+    d->epilog->setText(uxLabelText::shown(text));
+}

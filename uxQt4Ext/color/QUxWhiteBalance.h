@@ -40,7 +40,8 @@ class UXQT4EXT_EXPORT QUxWhiteBalance : public QWidget
     Q_PROPERTY(QString epilog READ epilog WRITE setEpilog)
 public:
     /// Tick positions of the slider, the values of QSlider::TickPosition.
-    enum SliderTicks {
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum SliderTicks : int {
         NoTicks = QSlider::NoTicks,
         TicksAbove = QSlider::TicksAbove,
         TicksBelow = QSlider::TicksBelow,

@@ -315,6 +315,25 @@ double QUxDoubleSpiner::applyRelativeOperator(double value, RelativeOperator op,
     return std::isnan(result) ? value : result;
 }
 
+// A NaN bound would make the value NaN and every later clamp meaningless.
+void QUxDoubleSpiner::setMinimum(double minimum)
+{
+    if (!std::isnan(minimum))
+        QDoubleSpinBox::setMinimum(minimum);
+}
+
+void QUxDoubleSpiner::setMaximum(double maximum)
+{
+    if (!std::isnan(maximum))
+        QDoubleSpinBox::setMaximum(maximum);
+}
+
+void QUxDoubleSpiner::setRange(double minimum, double maximum)
+{
+    QDoubleSpinBox::setRange(std::isnan(minimum) ? QDoubleSpinBox::minimum() : minimum,
+                             std::isnan(maximum) ? QDoubleSpinBox::maximum() : maximum);
+}
+
 void QUxDoubleSpiner::setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode)
 {
     d->relativeOperatorHandlingMode = mode;

@@ -35,7 +35,8 @@ class UXQT4EXT_EXPORT QUxDoubleSpiner : public QDoubleSpinBox
     Q_PROPERTY(bool displaySceneUnit READ displaySceneUnit WRITE setDisplaySceneUnit)
 
 public:
-    enum RelativeOperator {
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum RelativeOperator : int {
         NoRelativeOperator = 0,
         RelativeAdd = 1,      ///< "+="
         RelativeSubtract = 2, ///< "-="
@@ -45,7 +46,7 @@ public:
     };
     Q_ENUM(RelativeOperator)
 
-    enum RelativeOperatorHandlingMode {
+    enum RelativeOperatorHandlingMode : int {
         ApplyRelativeOperator = 0, ///< relative entries change this box's value
         EmitRelativeOperator = 1   ///< relative entries are reported, the value stays
     };
@@ -69,6 +70,11 @@ public:
     bool displaySceneUnit() const;
     /// Shows the host's scene unit (" mm", " cm", " m") as suffix.
     void setDisplaySceneUnit(bool on);
+
+    /// As QDoubleSpinBox's, except that a NaN bound is ignored.
+    void setMinimum(double minimum);
+    void setMaximum(double maximum);
+    void setRange(double minimum, double maximum);
 
     void setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode);
     RelativeOperatorHandlingMode relativeOperatorHandlingMode() const;

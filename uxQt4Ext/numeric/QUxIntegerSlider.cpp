@@ -1,6 +1,7 @@
 #include "QUxIntegerSlider.h"
 
 #include "uxChildSignals_p.h"
+#include "uxLabelText_p.h"
 #include "uxSignalBlocker.h"
 
 #include <uxPlatform.h>
@@ -25,14 +26,17 @@ public:
     QLabel* prefixLabel = nullptr;
     QSlider* slider = nullptr;
     QLabel* specialSuffixLabel = nullptr;
+    QString prefix;
+    QString specialSuffix;
     QSpinBox* spinner = nullptr;
 };
 
 namespace {
 
-void setLabelText(QLabel* label, const QString& text)
+void setLabelText(QLabel* label, QString& stored, const QString& text)
 {
-    label->setText(text);
+    stored = text;
+    label->setText(uxLabelText::shown(text));
     label->setVisible(!text.isEmpty());
 }
 
@@ -194,17 +198,20 @@ void QUxIntegerSlider::setHardMaximum(int maximum) { d->spinner->setMaximum(maxi
 
 int QUxIntegerSlider::hardMaximum() const { return d->spinner->maximum(); }
 
-void QUxIntegerSlider::setPrefix(const QString& text) { setLabelText(d->prefixLabel, text); }
+void QUxIntegerSlider::setPrefix(const QString& text) { setLabelText(d->prefixLabel, d->prefix, text); }
 
-QString QUxIntegerSlider::prefix() const { return d->prefixLabel->text(); }
+QString QUxIntegerSlider::prefix() const { return d->prefix; }
 
 void QUxIntegerSlider::setSuffix(const QString& text) { d->spinner->setSuffix(text); }
 
 QString QUxIntegerSlider::suffix() const { return d->spinner->suffix(); }
 
-void QUxIntegerSlider::setSpecialSuffix(const QString& text) { setLabelText(d->specialSuffixLabel, text); }
+void QUxIntegerSlider::setSpecialSuffix(const QString& text)
+{
+    setLabelText(d->specialSuffixLabel, d->specialSuffix, text);
+}
 
-QString QUxIntegerSlider::specialSuffix() const { return d->specialSuffixLabel->text(); }
+QString QUxIntegerSlider::specialSuffix() const { return d->specialSuffix; }
 
 void QUxIntegerSlider::setTicks(SliderTicks ticks) { d->slider->setTickPosition(QSlider::TickPosition(ticks)); }
 

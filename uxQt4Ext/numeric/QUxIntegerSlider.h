@@ -43,7 +43,8 @@ class UXQT4EXT_EXPORT QUxIntegerSlider : public QWidget
 
 public:
     /// Tick marks of the slider, the values of QSlider::TickPosition.
-    enum SliderTicks {
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum SliderTicks : int {
         NoTicks = 0,
         TicksAbove = 1,
         TicksLeft = TicksAbove,

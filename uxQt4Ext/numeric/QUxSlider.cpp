@@ -39,6 +39,9 @@ int roundTicks(double ticks, Rounding rounding)
     return int(rounding == Rounding::Down ? std::floor(ticks) : std::ceil(ticks));
 }
 
+/// @p requested, or @p current when NaN was requested: no bound or step can be made of NaN.
+double unlessNaN(double requested, double current) { return std::isnan(requested) ? current : requested; }
+
 /// (int) @p pageStep, kept inside the int range.
 int pageTicksOf(double pageStep)
 {
@@ -172,8 +175,8 @@ void QUxSlider::setValue(double value)
 
 void QUxSlider::setRange(double minimum, double maximum)
 {
-    d->minValue = minimum;
-    d->maxValue = maximum;
+    d->minValue = unlessNaN(minimum, d->minValue);
+    d->maxValue = unlessNaN(maximum, d->maxValue);
     adjustSlider();
 }
 
@@ -187,16 +190,17 @@ double QUxSlider::maxValue() const { return d->maxValue; }
 
 void QUxSlider::setHardRange(double minimum, double maximum)
 {
-    d->hardMinValue = minimum;
-    d->hardMaxValue = maximum;
+    // As in Qt's ranges: a maximum below the minimum leaves the minimum as the only value.
+    d->hardMinValue = unlessNaN(minimum, d->hardMinValue);
+    d->hardMaxValue = qMax(d->hardMinValue, unlessNaN(maximum, d->hardMaxValue));
     adjustSlider();
-    if (d->value < minimum || d->value > maximum)
+    if (d->value < d->hardMinValue || d->value > d->hardMaxValue)
         setValue(d->value);
 }
 
-void QUxSlider::setHardMinimum(double minimum) { setHardRange(minimum, d->hardMaxValue); }
+void QUxSlider::setHardMinimum(double minimum) { setHardRange(minimum, qMax(d->hardMaxValue, minimum)); }
 
-void QUxSlider::setHardMaximum(double maximum) { setHardRange(d->hardMinValue, maximum); }
+void QUxSlider::setHardMaximum(double maximum) { setHardRange(qMin(d->hardMinValue, maximum), maximum); }
 
 double QUxSlider::hardMinValue() const { return d->hardMinValue; }
 
@@ -210,7 +214,7 @@ void QUxSlider::setSteps(double lineStep, double pageStep)
 
 void QUxSlider::setLineStep(double lineStep)
 {
-    d->lineStep = lineStep;
+    d->lineStep = unlessNaN(lineStep, d->lineStep);
     adjustSlider();
 }
 
@@ -245,7 +249,7 @@ void QUxSlider::setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mod
 
 void QUxSlider::setSliderPos(SliderPosition position)
 {
-    if (position == d->sliderPos)
+    if (position == d->sliderPos || (position != Left && position != Right))
         return;
     d->sliderPos = position;
     d->layout->removeWidget(d->slider);

@@ -44,7 +44,8 @@ public:
     using RelativeOperatorHandlingMode = QUxDoubleSpiner::RelativeOperatorHandlingMode;
 
     /// Side of the slider relative to the spin box.
-    enum SliderPosition { Left = 0, Right = 1 };
+    // int-based, so that any integer a host passes (through a property, say) is a value of the type
+    enum SliderPosition : int { Left = 0, Right = 1 };
     Q_ENUM(SliderPosition)
 
     /// Horizontal, soft range 0 .. 1; a non-null @p name becomes the object name.

@@ -467,6 +467,8 @@ void QUxWheel::applyDragStep(int position)
 {
     const double increment = double(position - d->lastPos) * d->singleStep;
     d->lastPos = position;
+    if (std::isnan(increment))
+        return; // a NaN step moves nothing; the value must stay a number
     if (!d->emitsRelativeValue) {
         applyRangeRule(d->value + increment);
         return;

@@ -16,6 +16,18 @@ namespace {
 constexpr int Spacing = 3;
 constexpr int FieldStretch = 3;
 constexpr int WheelStretch = 2;
+constexpr double WheelRestartValue = 1e15;
+/// Largest minimum size, at scale 1, that the field or the wheel takes. Beyond it a host's
+/// request is clamped: a field stretched to millions of pixels makes the style paint it
+/// through a pixmap of that size.
+constexpr int LargestMinimumSize = 1024;
+
+QSize boundedMinimumSize(const QSize& size)
+{
+    const QSize largest(qRound(LargestMinimumSize * uxPlatform::getDpiScaleX()),
+                        qRound(LargestMinimumSize * uxPlatform::getDpiScaleY()));
+    return size.boundedTo(largest);
+}
 
 } // namespace
 
@@ -77,7 +89,13 @@ void QUxWheelPrec::turnWheel(double wheelValue)
 {
     const double steps = wheelValue - d->lastWheelValue;
     d->lastWheelValue = wheelValue;
-    if (steps == 0.0 || d->spiner->isReadOnly())
+    // Steps are differences of the wheel's value: one that is not finite or so large that a
+    // step of one is lost in it would swallow every later turn, so the wheel starts over at 0.
+    if (!(std::abs(wheelValue) < WheelRestartValue)) {
+        d->wheel->updateValue(0.0);
+        d->lastWheelValue = 0.0;
+    }
+    if (!std::isfinite(steps) || steps == 0.0 || d->spiner->isReadOnly())
         return;
     const double increment = steps * d->spiner->singleStep();
     // A turn is a relative entry like a typed "+=increment": a multi-selection host applies it to every object.
@@ -178,7 +196,7 @@ void QUxWheelPrec::setButtonSymbols(QAbstractSpinBox::ButtonSymbols symbols) { d
 
 QSize QUxWheelPrec::minimumWheelSize() const { return d->wheel->minimumSize(); }
 
-void QUxWheelPrec::setMinimumWheelSize(const QSize& size) { d->wheel->setMinimumSize(size); }
+void QUxWheelPrec::setMinimumWheelSize(const QSize& size) { d->wheel->setMinimumSize(boundedMinimumSize(size)); }
 
 QSize QUxWheelPrec::maximumWheelSize() const { return d->wheel->maximumSize(); }
 
@@ -186,7 +204,7 @@ void QUxWheelPrec::setMaximumWheelSize(const QSize& size) { d->wheel->setMaximum
 
 QSize QUxWheelPrec::minimumSpinerSize() const { return d->spiner->minimumSize(); }
 
-void QUxWheelPrec::setMinimumSpinerSize(const QSize& size) { d->spiner->setMinimumSize(size); }
+void QUxWheelPrec::setMinimumSpinerSize(const QSize& size) { d->spiner->setMinimumSize(boundedMinimumSize(size)); }
 
 QSize QUxWheelPrec::maximumSpinerSize() const { return d->spiner->maximumSize(); }
 

@@ -1,5 +1,7 @@
 #include "uxVectorRows_p.h"
 
+#include "uxLabelText_p.h"
+
 namespace uxVectorRows {
 
 namespace {
@@ -56,7 +58,7 @@ void applySubLabels(const std::vector<QLabel*>& labels, const QStringList& texts
 {
     for (size_t i = 0; i < labels.size(); ++i) {
         const QString text = texts.value(static_cast<int>(i));
-        labels[i]->setText(text);
+        labels[i]->setText(uxLabelText::shown(text));
         labels[i]->setVisible(!text.isEmpty());
     }
 }

@@ -1,0 +1,792 @@
+#include <uxHostileInput.h>
+#include <uxTestSupport.h>
+
+#include <QUxColor.h>
+#include <QUxColorArray.h>
+#include <QUxColorCell.h>
+#include <QUxColorCellData.h>
+#include <QUxColorField.h>
+#include <QUxDoubleSpiner.h>
+#include <QUxIntVector2DSlider.h>
+#include <QUxIntVector2DSpiner.h>
+#include <QUxIntVector3DSlider.h>
+#include <QUxIntVector3DSpiner.h>
+#include <QUxIntVector4DSlider.h>
+#include <QUxIntVector4DSpiner.h>
+#include <QUxIntegerSlider.h>
+#include <QUxLed.h>
+#include <QUxSlider.h>
+#include <QUxSliderSwitch.h>
+#include <QUxSpiner.h>
+#include <QUxVec2Control.h>
+#include <QUxVec2SliderControl.h>
+#include <QUxVec3Control.h>
+#include <QUxVec3SliderControl.h>
+#include <QUxVec4Control.h>
+#include <QUxVec4SliderControl.h>
+#include <QUxWheel.h>
+#include <QUxWheelPrec.h>
+#include <QUxWhiteBalance.h>
+#include <uxSignalBlocker.h>
+#include <uxUIStyle.h>
+#include <uxUIUtils.h>
+
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSlider>
+
+#include <cmath>
+
+using uxHostile::Enum;
+
+namespace {
+
+template<typename W, int width = 200, int height = 24>
+std::shared_ptr<W> sized()
+{
+    auto w = std::make_shared<W>();
+    w->resize(width, height);
+    return w;
+}
+
+/// Every component of a vector set to @p x.
+template<typename V, typename T>
+V filled(T x)
+{
+    V v;
+    for (int i = 0; i < int(sizeof(V) / sizeof(v[0])); ++i)
+        v[i] = x;
+    return v;
+}
+
+void send(QWidget* target, QEvent::Type type, Qt::MouseButton button, QPoint at)
+{
+    QMouseEvent event(type, at, target->mapToGlobal(at), button, type == QEvent::MouseMove ? button : Qt::NoButton,
+                      Qt::NoModifier);
+    static_cast<QObject*>(target)->event(&event);
+}
+
+/// Presses @p button at (10, 10) of @p target, moves diagonally to (@p to, @p to) and releases there.
+void drag(QWidget* target, Qt::MouseButton button, int to)
+{
+    send(target, QEvent::MouseButtonPress, button, {10, 10});
+    send(target, QEvent::MouseMove, button, {to, to});
+    send(target, QEvent::MouseButtonRelease, button, {to, to});
+}
+
+void click(QWidget* target)
+{
+    send(target, QEvent::MouseButtonPress, Qt::LeftButton, {2, 2});
+    send(target, QEvent::MouseButtonRelease, Qt::LeftButton, {2, 2});
+}
+
+/// One notch of the mouse wheel.
+void turn(QWidget* target)
+{
+    QWheelEvent notch(QPointF(5, 5), QPointF(5, 5), {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    static_cast<QObject*>(target)->event(&notch);
+}
+
+/// Far more animation steps than a switch has pixels to travel.
+void animate(QUxSliderSwitch& s)
+{
+    for (int i = 0; i < 100; ++i)
+        s.animateSlider();
+}
+
+void dropColor(QWidget* target, const QColor& color)
+{
+    QMimeData data;
+    data.setColorData(color);
+    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    static_cast<QObject*>(target)->event(&drop);
+}
+
+QUxColor hsv(float h, float s, float v)
+{
+    QUxColor c;
+    c.setHSV(h, s, v);
+    return c;
+}
+
+/// A vector setter fed vectors whose components all take one hostile @p Scalar.
+template<typename Scalar, typename V, typename Vector>
+auto filledOp(void (V::*setter)(const Vector&))
+{
+    return [setter](V& v, Scalar x) { (v.*setter)(filled<Vector>(x)); };
+}
+
+template<typename W>
+std::shared_ptr<W> named(const QString& name)
+{
+    return std::make_shared<W>(nullptr, name.toLatin1().constData());
+}
+
+void addValues(uxHostile::Sweep& sweep)
+{
+    using C = QUxColor;
+    auto color = sweep.add<C>(
+        "QUxColor", [] { return std::make_shared<C>(0.0f, 0.0f, 0.0f); },
+        [](C& c) {
+            QVERIFY(c.getQColor().isValid() && c.getClampedQColor().isValid() && c.getGammaQColor().isValid());
+            c.setRGB(1.0f, 0.5f, 0.0f);
+            QCOMPARE(c.getQColor(), QColor(255, 127, 0));
+        });
+    color
+        .ops("setHue", &C::setHue, "setSaturation", &C::setSaturation, "setValue", &C::setValue, "setRed", &C::setRed,
+             "setGreen", &C::setGreen, "setBlue", &C::setBlue, "setLstar", &C::setLstar, "setAstar", &C::setAstar,
+             "setBstar", &C::setBstar)
+        .op("setHSV", [](C& c, float v) { c.setHSV(v, 0.5f, v); })
+        .op("setRGB", [](C& c, float v) { c.setRGB(v, 0.5f, v); })
+        .op("setSRGB", [](C& c, float v) { c.setSRGB(v, v, 0.5f); })
+        .op("setGammaRGB", [](C& c, float v) { c.setGammaRGB(v, v, 0.5f); })
+        .op("setXYZ", [](C& c, float v) { c.setXYZ(v, 0.5f, v); })
+        .op("setLab", [](C& c, float v) { c.setLab(50.0f, v, v); })
+        .op("setGammaColor", [](C& c, float v) { c.setGammaColor(C(v, v, v)); })
+        .op("setColor(QColor)", [](C& c, int v) { c.setColor(QColor(v, 0, v)); })
+        .op("getClamped8Bit", [](C&, float v) { QVERIFY(C::getClamped8Bit(v) >= 0); })
+        .op("getClamped", [](C&, float v) { QVERIFY(C::getClamped(v) >= 0.0f); })
+        .op("clampRGB8Bit",
+            [](C&, int v) {
+                C::clampRGB8Bit(v, v, v);
+                QVERIFY(v >= 0 && v <= 255);
+            })
+        .ctor("QUxColor(r,g,b)", [](float v) { return std::make_shared<C>(v, v, 0.5f); })
+        .ctor("QUxColor(int r,g,b)", [](int v) { return std::make_shared<C>(v, 0, v); });
+    using Conversion = void (*)(float, float, float, float&, float&, float&);
+    const std::pair<const char*, Conversion> conversions[] = {
+        {"RGBtoHSV", &C::RGBtoHSV},     {"HSVtoRGB", &C::HSVtoRGB}, {"RGBtoSRGB", &C::RGBtoSRGB},
+        {"SRGBtoRGB", &C::SRGBtoRGB},   {"RGBtoXYZ", &C::RGBtoXYZ}, {"XYZtoRGB", &C::XYZtoRGB},
+        {"RGBtoXYZ_E", &C::RGBtoXYZ_E}, {"XYZtoLAB", &C::XYZtoLAB}, {"LABtoXYZ", &C::LABtoXYZ},
+        {"LABtoXYZ_E", &C::LABtoXYZ_E}, {"RGBtoLAB", &C::RGBtoLAB}, {"LABtoRGB", &C::LABtoRGB},
+        {"HSVtoXYZ", &C::HSVtoXYZ},     {"XYZtoHSV", &C::XYZtoHSV}, {"HSVtoLAB", &C::HSVtoLAB},
+        {"LABtoHSV", &C::LABtoHSV}};
+    for (const auto& [name, convert] : conversions)
+        color.op(name, [convert = convert](C&, float v) { convert(v, 0.5f, v, v, v, v); });
+
+    const auto intVector = [&sweep](auto tag, const char* name) {
+        using V = decltype(tag);
+        sweep.add<V>(name, [](V& v) { QCOMPARE(v.setValue(filled<V>(7)), filled<V>(7)); })
+            .op("setX", [](V& v, int x) { QCOMPARE(v.setX(x).getX(), x); })
+            .op("setY", [](V& v, int x) { QCOMPARE(v.setY(x).getY(), x); });
+    };
+    intVector(QUxIntVector2D(), "QUxIntVector2D");
+    intVector(QUxIntVector3D(), "QUxIntVector3D");
+    intVector(QUxIntVector4D(), "QUxIntVector4D");
+
+    using B = uxSignalBlocker;
+    sweep
+        .add<B>("uxSignalBlocker",
+                [](B& blocker) {
+                    QObject o;
+                    blocker << &o;
+                    QVERIFY(o.signalsBlocked() && blocker.isAssigned(&o) && blocker.unblock(&o));
+                    QVERIFY(!o.signalsBlocked());
+                })
+        .op("block,<<,+=", [](B& b, std::nullptr_t p) { b.block(p) << p += p; })
+        .op("unblock", [](B& b, std::nullptr_t p) { QVERIFY(!b.unblock(p)); })
+        .op("isAssigned", [](B& b, std::nullptr_t p) { QVERIFY(!b.isAssigned(p)); })
+        .ctor("uxSignalBlocker(QObject*)", [](QObject* p) { return std::make_shared<B>(p); })
+        .ctor("uxSignalBlocker({..})",
+              [](QObject* p) { return std::make_shared<B>(std::initializer_list<QObject*>{p}); })
+        .ctor("uxSignalBlocker(vector)", [](QObject* p) {
+            return std::make_shared<B>(std::vector<QObject*>{p, p});
+        });
+
+    using U = uxUIUtils;
+    sweep
+        .add<U>("uxUIUtils",
+                [](U&) {
+                    U::setSceneUnitScale(10.0f);
+                    QCOMPARE(U::getSceneUnitString(), QStringLiteral(" cm"));
+                    U::setSceneUnitScale(1.0f);
+                })
+        .op("setSceneUnitScale",
+            [](U&, float v) {
+                QUxDoubleSpiner shown;
+                shown.setDisplaySceneUnit(true);
+                U::setSceneUnitScale(v);
+                QUxDoubleSpiner::updateInstancesWithSceneUnit();
+                QCOMPARE(shown.suffix(), QString());
+            })
+        .op("sortNumeric", [](U&, const QString& s) {
+            QStringList list{s, QStringLiteral("item10"), s, QStringLiteral("item2")};
+            U::sortNumeric(list);
+            QVERIFY(list.indexOf(QStringLiteral("item2")) < list.indexOf(QStringLiteral("item10")));
+        });
+
+    sweep
+        .add<QWidget>("uxUIStyle",
+                      [](QWidget& w) {
+                          uxUIStyle::setMultiSelectHighlight(&w, true);
+                          QCOMPARE(w.property("multiselect"), QVariant(true));
+                      })
+        .op("applyFont(nullptr,w)", [](QWidget& w, QWidget* p) { uxUIStyle::applyFont(p, &w); })
+        .op("applyFont(w,nullptr)", [](QWidget& w, QWidget* p) { uxUIStyle::applyFont(&w, p); })
+        .op("setControlProperty(nullptr,..)", [](QWidget&, QWidget* p) { uxUIStyle::setControlProperty(p, "a", 1); })
+        .op("setControlProperty(w,nullptr,..)",
+            [](QWidget& w, std::nullptr_t p) { uxUIStyle::setControlProperty(&w, p, 1); })
+        .op("setControlProperty(w,name,..)",
+            [](QWidget& w, const QString& s) { uxUIStyle::setControlProperty(&w, s.toLatin1().constData(), s); })
+        .op("setMultiSelectHighlight", [](QWidget&, QWidget* p) { uxUIStyle::setMultiSelectHighlight(p, true); });
+}
+
+// ---------------------------------------------------------------------------
+
+void addSpinBoxes(uxHostile::Sweep& sweep)
+{
+    using S = QUxDoubleSpiner;
+    sweep
+        .add<S>("QUxDoubleSpiner", sized<S>,
+                [](S& s) {
+                    QVERIFY(!std::isnan(s.value()) && s.minimum() <= s.maximum());
+                    QVERIFY(s.displayDecimals() >= 0 && s.displayDecimals() <= 323);
+                    QVERIFY(std::isfinite(s.singleStep()) && s.singleStep() > 0);
+                    s.stepBy(1);
+                    QVERIFY(!std::isnan(s.valueFromText(s.text())) && !std::isnan(s.value()));
+                    s.setRange(-100, 100);
+                    s.setValue(12);
+                    QCOMPARE(s.value(), 12.0);
+                })
+        .ops("setValue", &S::setValue, "setSingleStep", &S::setSingleStep, "setMinimum", &S::setMinimum, "setMaximum",
+             &S::setMaximum, "setRange", &S::setRange, "setDecimals", &S::setDecimals, "setDisplayDecimals",
+             &S::setDisplayDecimals, "setPrefix", &S::setPrefix, "setSuffix", &S::setSuffix,
+             "setRelativeOperatorHandlingMode", &S::setRelativeOperatorHandlingMode, "stepBy", &S::stepBy)
+        .op("validate",
+            [](S& s, QString text) {
+                int pos = 0;
+                s.validate(text, pos);
+            })
+        .op("valueFromText", [](S& s, const QString& text) { QVERIFY(!std::isnan(s.valueFromText(text))); })
+        .op("textFromValue", [](S& s, double v) { s.textFromValue(v); })
+        .op("applyRelativeOperator(v,op,operand)",
+            [](S&, double v) {
+                for (int op = S::NoRelativeOperator; op <= S::RelativeSet; ++op)
+                    QVERIFY(!std::isnan(S::applyRelativeOperator(1.0, S::RelativeOperator(op), v)));
+            })
+        .op("applyRelativeOperator(v,op,2)",
+            [](S&, Enum e) { QCOMPARE(S::applyRelativeOperator(1.0, e.as<S::RelativeOperator>(), 2.0), 1.0); })
+        .op("relativeOperatorChanged then emitRelativeValue",
+            [](S& s, Enum e) {
+                s.setRelativeOperatorHandlingMode(S::EmitRelativeOperator);
+                emit s.relativeOperatorChanged(e.as<S::RelativeOperator>(), qQNaN());
+                s.emitRelativeValue();
+                s.setRelativeOperatorHandlingMode(S::ApplyRelativeOperator);
+            })
+        .op("setSingleStep then middle drag", [](S& s, double step) {
+            s.setSingleStep(step);
+            drag(s.findChild<QLineEdit*>(), Qt::MiddleButton, 60);
+        });
+
+    using I = QUxSpiner;
+    sweep
+        .add<I>("QUxSpiner", sized<I>,
+                [](I& s) {
+                    QVERIFY(s.minimum() <= s.value() && s.value() <= s.maximum());
+                    s.stepBy(1);
+                    s.setRange(-100, 100);
+                    s.setValue(12);
+                    QCOMPARE(s.value(), 12);
+                })
+        .ops("setValue", &I::setValue, "setSingleStep", &I::setSingleStep, "setMinimum", &I::setMinimum, "setMaximum",
+             &I::setMaximum, "setRange", &I::setRange, "setPrefix", &I::setPrefix, "setSuffix", &I::setSuffix, "stepBy",
+             &I::stepBy)
+        .op("setSingleStep then middle drag", [](I& s, int step) {
+            s.setSingleStep(step);
+            drag(s.findChild<QLineEdit*>(), Qt::MiddleButton, 60);
+        });
+}
+
+void addSliders(uxHostile::Sweep& sweep)
+{
+    using S = QUxSlider;
+    sweep
+        .add<S>("QUxSlider", sized<S>,
+                [](S& s) {
+                    for (double v : {s.value(), 0.5}) {
+                        s.setValue(v);
+                        QVERIFY(s.hardMinValue() <= s.value() && s.value() <= s.hardMaxValue());
+                    }
+                    s.setHardRange(-100, 100);
+                    s.setRange(0, 10);
+                    s.setSteps(0.5, 2);
+                    s.setValue(2.5);
+                    QCOMPARE(s.value(), 2.5);
+                    QCOMPARE(s.findChild<QSlider*>()->value(), 5);
+                })
+        .ops("setValue", &S::setValue, "setMinimum", &S::setMinimum, "setMaximum", &S::setMaximum, "setHardMinimum",
+             &S::setHardMinimum, "setHardMaximum", &S::setHardMaximum, "setLineStep", &S::setLineStep, "setPageStep",
+             &S::setPageStep, "setRange", &S::setRange, "setHardRange", &S::setHardRange, "setSteps", &S::setSteps,
+             "setDecimals", &S::setDecimals, "setDisplayDecimals", &S::setDisplayDecimals, "setSuffix", &S::setSuffix,
+             "setSliderPos", &S::setSliderPos, "onValueChanged", &S::onValueChanged, "onSliderMoved", &S::onSliderMoved)
+        .op("setLineStep then slider to the end",
+            [](S& s, double step) {
+                s.setLineStep(step);
+                s.findChild<QSlider*>()->triggerAction(QAbstractSlider::SliderToMaximum);
+            })
+        .ctor("QUxSlider(min,..)", [](double v) { return std::make_shared<S>(v, 1, 0.1, 0.5, Qt::Horizontal); })
+        .ctor("QUxSlider(..,max,..)", [](double v) { return std::make_shared<S>(0, v, 0.1, 0.5, Qt::Vertical); })
+        .ctor("QUxSlider(..,lineStep,..)", [](double v) { return std::make_shared<S>(0, 1, v, 0.5, Qt::Horizontal); })
+        .ctor("QUxSlider(..,value,..)", [](double v) { return std::make_shared<S>(0, 1, 0.1, v, Qt::Horizontal); })
+        .ctor("QUxSlider(..,orientation)",
+              [](Enum e) { return std::make_shared<S>(0, 1, 0.1, 0, e.masked<Qt::Orientation>(3)); })
+        .ctor("QUxSlider(parent,name)", named<S>);
+
+    using I = QUxIntegerSlider;
+    sweep
+        .add<I>("QUxIntegerSlider", sized<I>,
+                [](I& s) {
+                    QVERIFY(s.hardMinimum() <= s.value() && s.value() <= s.hardMaximum());
+                    s.setMinimum(-100);
+                    s.setMaximum(100);
+                    s.setValue(12);
+                    QCOMPARE(s.value(), 12);
+                    QCOMPARE(s.findChild<QSlider*>()->value(), 12);
+                })
+        .ops("setValue", &I::setValue, "setMinimum", &I::setMinimum, "setMaximum", &I::setMaximum, "setStep",
+             &I::setStep, "setPageStep", &I::setPageStep, "setHardMinimum", &I::setHardMinimum, "setHardMaximum",
+             &I::setHardMaximum, "setPrefix", &I::setPrefix, "setSuffix", &I::setSuffix, "setSpecialSuffix",
+             &I::setSpecialSuffix, "setTicks", &I::setTicks)
+        .op("setMinimum,setMaximum",
+            [](I& s, uxHostile::Range<int> r) {
+                s.setMinimum(r.low);
+                s.setMaximum(r.high);
+            })
+        .ctor("QUxIntegerSlider(parent,name)", named<I>);
+
+    sweep
+        .add<QUxSliderSwitch>("QUxSliderSwitch", sized<QUxSliderSwitch>,
+                              [](QUxSliderSwitch& s) {
+                                  s.setOn(true);
+                                  animate(s);
+                                  QVERIFY(s.isOn());
+                              })
+        .op("release at (v,v), animateSlider", [](QUxSliderSwitch& s, int v) {
+            send(&s, QEvent::MouseButtonRelease, Qt::LeftButton, {v, v});
+            animate(s);
+        });
+}
+
+void addWheels(uxHostile::Sweep& sweep)
+{
+    using W = QUxWheel;
+    using Range = uxHostile::Range<double>;
+    sweep
+        .add<W>("QUxWheel", sized<W>,
+                [](W& w) {
+                    QTest::keyClick(&w, Qt::Key_Right);
+                    w.setRange(-10, 10);
+                    w.setSingleStep(1);
+                    w.setValue(3);
+                    drag(&w, Qt::LeftButton, 12);
+                    QCOMPARE(w.value(), 5.0);
+                })
+        .ops("setValue", &W::setValue, "updateValue", &W::updateValue, "setMinimum", &W::setMinimum, "setMaximum",
+             &W::setMaximum, "setRange", &W::setRange, "setSingleStep", &W::setSingleStep, "setTransmissionRatio",
+             &W::setTransmissionRatio, "setCogCount", &W::setCogCount, "setPageStep", &W::setPageStep)
+        .op("setRange, wrapping drag",
+            [](W& w, Range r) {
+                w.setRange(r.low, r.high);
+                w.setWrapsAround(true);
+                drag(&w, Qt::LeftButton, 100);
+            })
+        .op("setRange, Home, End",
+            [](W& w, Range r) {
+                w.setRange(r.low, r.high);
+                QTest::keyClick(&w, Qt::Key_Home);
+                QTest::keyClick(&w, Qt::Key_End);
+            })
+        .op("setSingleStep, drag",
+            [](W& w, double step) {
+                w.setSingleStep(step);
+                drag(&w, Qt::LeftButton, 100);
+            })
+        .op("setPageStep, mouse wheel",
+            [](W& w, int step) {
+                w.setPageStep(step);
+                turn(&w);
+            })
+        .ctor("QUxWheel(..,pageStep,..)", [](int v) { return std::make_shared<W>(0, 0, v, 0, Qt::Horizontal); })
+        .ctor("QUxWheel(..,value,..)", [](int v) { return std::make_shared<W>(0, 0, 10, v, Qt::Vertical); })
+        .ctor("QUxWheel(..,orientation)",
+              [](Enum e) { return std::make_shared<W>(0, 0, 10, 0, e.masked<Qt::Orientation>(3)); });
+
+    using P = QUxWheelPrec;
+    sweep
+        .add<P>("QUxWheelPrec", sized<P>,
+                [](P& p) {
+                    p.setValue(0.5);
+                    QVERIFY(!std::isnan(p.value()));
+                    p.setRange(-100, 100);
+                    p.setSingleStep(0.5);
+                    p.setValue(12);
+                    p.wheel()->setValue(p.wheel()->value() + 2); // as a drag of two pixels does
+                    QCOMPARE(p.value(), 13.0);
+                })
+        .ops("setValue", &P::setValue, "setSingleStep", &P::setSingleStep, "setMinimum", &P::setMinimum, "setMaximum",
+             &P::setMaximum, "setRange", &P::setRange, "setDecimals", &P::setDecimals, "setDisplayDecimals",
+             &P::setDisplayDecimals, "setSuffix", &P::setSuffix, "setMinimumWheelSize", &P::setMinimumWheelSize,
+             "setMaximumWheelSize", &P::setMaximumWheelSize, "setMinimumSpinerSize", &P::setMinimumSpinerSize,
+             "setMaximumSpinerSize", &P::setMaximumSpinerSize, "setRelativeOperatorHandlingMode",
+             &P::setRelativeOperatorHandlingMode)
+        .op("setButtonSymbols", [](P& p, Enum e) { p.setButtonSymbols(e.masked<QAbstractSpinBox::ButtonSymbols>(3)); })
+        .op("setControlProperty(nullptr,..)", [](P& p, std::nullptr_t n) { p.setControlProperty(n, 1); })
+        .op("wheel()->setValue", [](P& p, double v) { p.wheel()->setValue(v); })
+        .op("wheel()->setSingleStep, drag", [](P& p, double v) {
+            p.wheel()->setSingleStep(v);
+            drag(p.wheel(), Qt::LeftButton, 40);
+        });
+}
+
+template<typename V>
+uxHostile::Sweep::Class<V> addWheelVector(uxHostile::Sweep& sweep, const char* name)
+{
+    return sweep
+        .add<V>(name, sized<V>,
+                [](V& v) {
+                    v.setMinimum(-100);
+                    v.setMaximum(100);
+                    v.setX(12);
+                    QCOMPARE(v.getX(), 12.0);
+                    QVERIFY(!std::isnan(v.getY()));
+                })
+        .ops("setX", &V::setX, "setY", &V::setY, "setSingleStep", &V::setSingleStep, "setMinimum", &V::setMinimum,
+             "setMaximum", &V::setMaximum, "setDecimals", &V::setDecimals, "setDisplayDecimals", &V::setDisplayDecimals,
+             "setSuffix", &V::setSuffix, "setOrientation", &V::setOrientation, "setMinimumWheelSize",
+             &V::setMinimumWheelSize, "setMaximumSpinerSize", &V::setMaximumSpinerSize,
+             "setRelativeOperatorHandlingMode", &V::setRelativeOperatorHandlingMode)
+        .op("setButtonSymbols", [](V& v, Enum e) { v.setButtonSymbols(e.masked<QAbstractSpinBox::ButtonSymbols>(3)); })
+        .op("wheelPrec", [](V& v, int axis) { QVERIFY(!v.wheelPrec(axis) || (axis >= 0 && axis < 4)); })
+        .op("setMultiSelectHighlight", [](V& v, int axis) { v.setMultiSelectHighlight(axis, true); })
+        .op("setControlProperty(axis,..)", [](V& v, int axis) { v.setControlProperty(axis, "multiselect", true); })
+        .op("setControlProperty(0,nullptr,..)", [](V& v, std::nullptr_t n) { v.setControlProperty(0, n, true); })
+        .op("setStyleSheet(axis,..)", [](V& v, int axis) { v.setStyleSheet(axis, QStringLiteral("color: red")); })
+        .op("setStyleSheet(0,..)", [](V& v, const QString& s) { v.setStyleSheet(0, s); });
+}
+
+template<typename V, typename Vector, typename IntVector>
+void addSliderVector(uxHostile::Sweep& sweep, const char* name)
+{
+    sweep
+        .add<V>(name, sized<V>,
+                [](V& v) {
+                    v.setHardMinimum(filled<Vector>(-100.0f));
+                    v.setHardMaximum(filled<Vector>(100.0f));
+                    v.setMaximum(filled<Vector>(10.0f));
+                    v.setMinimum(filled<Vector>(0.0f));
+                    v.setLineStep(filled<Vector>(0.5f));
+                    v.setValue(filled<Vector>(2.5f));
+                    QCOMPARE(v.value(), filled<Vector>(2.5f));
+                })
+        .ops("setValue", filledOp<float>(&V::setValue), "setMinimum", filledOp<float>(&V::setMinimum), "setMaximum",
+             filledOp<float>(&V::setMaximum), "setLineStep", filledOp<float>(&V::setLineStep), "setHardMinimum",
+             filledOp<float>(&V::setHardMinimum), "setHardMaximum", filledOp<float>(&V::setHardMaximum), "setPageStep",
+             filledOp<float>(&V::setPageStep), "setDecimals", filledOp<int>(&V::setDecimals), "setDisplayDecimals",
+             filledOp<int>(&V::setDisplayDecimals), "setSliderPos", &V::setSliderPos)
+        .op("setSuffix", [](V& v, const QString& s) { v.setSuffix({s}); })
+        .op("setSubLabels",
+            [](V& v, const QString& s) {
+                v.setSubLabels({s, s, s, s, s});
+            })
+        .op("slider", [](V& v, int axis) { QVERIFY(!v.slider(axis) || (axis >= 0 && axis < 4)); });
+}
+
+template<typename V, typename IntVector = std::decay_t<decltype(std::declval<V>().value())>>
+uxHostile::Sweep::Class<V> addIntVector(uxHostile::Sweep& sweep, const char* name)
+{
+    return sweep
+        .add<V>(name, sized<V>,
+                [](V& v) {
+                    v.setMinimum(filled<IntVector>(-100));
+                    v.setMaximum(filled<IntVector>(100));
+                    v.setValue(filled<IntVector>(12));
+                    QCOMPARE(v.value(), filled<IntVector>(12));
+                })
+        .ops("setValue", filledOp<int>(&V::setValue), "setMinimum", filledOp<int>(&V::setMinimum), "setMaximum",
+             filledOp<int>(&V::setMaximum), "setStep", filledOp<int>(&V::setStep))
+        .op("setSubLabels", [](V& v, const QString& s) { v.setSubLabels({s}); })
+        .op("editor", [](V& v, int axis) { QVERIFY(!v.editor(axis) || (axis >= 0 && axis < 4)); });
+}
+
+void addVectors(uxHostile::Sweep& sweep)
+{
+    addWheelVector<QUxVec2Control>(sweep, "QUxVec2Control")
+        .ops("setLabel", &QUxVec2Control::setLabel)
+        .op("setXY", [](QUxVec2Control& v, double x) { v.setXY(x, x); });
+    addWheelVector<QUxVec3Control>(sweep, "QUxVec3Control")
+        .ops("setLabel", &QUxVec3Control::setLabel)
+        .op("setXYZ", [](QUxVec3Control& v, double x) { v.setXYZ(x, x, x); });
+    addWheelVector<QUxVec4Control>(sweep, "QUxVec4Control").op("setXYZW", [](QUxVec4Control& v, double x) {
+        v.setXYZW(x, x, x, x);
+    });
+    addSliderVector<QUxVec2SliderControl, QVector2D, QUxIntVector2D>(sweep, "QUxVec2SliderControl");
+    addSliderVector<QUxVec3SliderControl, QVector3D, QUxIntVector3D>(sweep, "QUxVec3SliderControl");
+    addSliderVector<QUxVec4SliderControl, QVector4D, QUxIntVector4D>(sweep, "QUxVec4SliderControl");
+    addIntVector<QUxIntVector2DSlider>(sweep, "QUxIntVector2DSlider")
+        .ops("setPageStep", filledOp<int>(&QUxIntVector2DSlider::setPageStep));
+    addIntVector<QUxIntVector3DSlider>(sweep, "QUxIntVector3DSlider")
+        .ops("setPageStep", filledOp<int>(&QUxIntVector3DSlider::setPageStep));
+    addIntVector<QUxIntVector4DSlider>(sweep, "QUxIntVector4DSlider")
+        .ops("setPageStep", filledOp<int>(&QUxIntVector4DSlider::setPageStep));
+    addIntVector<QUxIntVector2DSpiner>(sweep, "QUxIntVector2DSpiner");
+    addIntVector<QUxIntVector3DSpiner>(sweep, "QUxIntVector3DSpiner");
+    addIntVector<QUxIntVector4DSpiner>(sweep, "QUxIntVector4DSpiner");
+}
+
+// ---------------------------------------------------------------------------
+
+void addColorControls(uxHostile::Sweep& sweep)
+{
+    using F = QUxColorField;
+    auto field = sweep.add<F>("QUxColorField", sized<F, 64, 64>, [](F& f) {
+        QVERIFY(!std::isnan(f.getConstantChannel()));
+        f.setMode(F::Hue);
+        f.setHSV(120.0f, 0.5f, 0.25f);
+        QCOMPARE(f.getSaturation(), 0.5f);
+        QCOMPARE(f.getConstantChannel(), 120.0f);
+    });
+    field
+        .ops("setHue", &F::setHue, "setSaturation", &F::setSaturation, "setValue", &F::setValue, "setRed", &F::setRed,
+             "setGreen", &F::setGreen, "setBlue", &F::setBlue, "setLstar", &F::setLstar, "setAstar", &F::setAstar,
+             "setBstar", &F::setBstar, "setMode", &F::setMode)
+        .op("setHSV", [](F& f, float v) { f.setHSV(v, v, 0.5f); })
+        .op("setRGB", [](F& f, float v) { f.setRGB(v, 0.5f, v); })
+        .op("setLab", [](F& f, float v) { f.setLab(v, v, 0.0f); })
+        .op("setColor", [](F& f, float v) { f.setColor(hsv(v, v, v)); })
+        .op("updateConstantChannel", [](F& f, float v) { f.updateConstantChannel(hsv(v, 0.5f, v)); })
+        .op("renderField(mode)",
+            [](F&, Enum e) {
+                QVERIFY(F::renderField(e.as<F::Mode>(), 0, {8, 8}).isNull());
+            })
+        .op("renderField(constant)",
+            [](F&, float v) {
+                QVERIFY(!F::renderField(F::Lstar, v, {8, 8}).isNull());
+            })
+        .op("renderField(size)", [](F&, QSize size) { F::renderField(F::Hue, 0, size); })
+        .op("renderField(ratio)",
+            [](F&, double ratio) {
+                F::renderField(F::Hue, 0, {8, 8}, ratio);
+            })
+        .ctor("QUxColorField(r,g,b)", [](float v) { return std::make_shared<F>(v, 0.5f, v); })
+        .ctor("QUxColorField(parent,name)", named<F>);
+    const QMetaEnum modes = QMetaEnum::fromType<F::Mode>();
+    for (int m = F::Hue; m <= F::Bstar; ++m) {
+        field.op(QByteArray("setConstantChannel in ") + modes.key(m), [m](F& f, float v) {
+            f.setMode(F::Mode(m));
+            f.setConstantChannel(v);
+        });
+        field.op(QByteArray("pick at (v,v) in ") + modes.key(m), [m](F& f, int v) {
+            f.setMode(F::Mode(m));
+            send(&f, QEvent::MouseButtonPress, Qt::LeftButton, {v, v});
+            QVERIFY(!std::isnan(f.getHue()) && !std::isnan(f.getValue()));
+        });
+    }
+
+    const auto palette = [] {
+        QUxColorArray::s_cellData.clear(); // every case starts from an empty palette
+        return std::make_shared<QUxColorArray>();
+    };
+    sweep
+        .add<QUxColorArray>("QUxColorArray", palette,
+                            [](QUxColorArray& a) {
+                                a.addColor(QUxColor(1.0f, 0.0f, 0.0f));
+                                bool red = false;
+                                for (int i = 0; i < QUxColorArray::CellCount; ++i)
+                                    red = red || (!a.isFreeCell(i) && a.getColor(i).getQColor() == Qt::red);
+                                QVERIFY(red);
+                            })
+        .op("addColor", [](QUxColorArray& a, float v) { a.addColor(hsv(v, v, v)); })
+        .op("getColor", [](QUxColorArray& a, int i) { a.getColor(i); })
+        .op("isFreeCell", [](QUxColorArray& a, int i) { QVERIFY(a.isFreeCell(i)); });
+
+    const auto cellOf = [palette](int index) {
+        const std::shared_ptr<QUxColorArray> array = palette();
+        return std::shared_ptr<QUxColorCell>(array, new QUxColorCell(array.get(), index));
+    };
+    sweep
+        .add<QUxColorCell>(
+            "QUxColorCell", [cellOf] { return cellOf(0); },
+            [](QUxColorCell& cell) {
+                dropColor(&cell, Qt::green);
+                click(&cell);
+                if (cell.colorArray() && cell.index() >= 0 && cell.index() < QUxColorArray::CellCount)
+                    QCOMPARE(cell.colorArray()->getColor(cell.index()).getQColor(), QColor(Qt::green));
+            })
+        .ctor("QUxColorCell(array,index)", cellOf)
+        .ctor("QUxColorCell(nullptr,index)", [](QUxColorArray* p) { return std::make_shared<QUxColorCell>(p, 0); });
+
+    using D = QUxColorCellData;
+    sweep
+        .add<D>("QUxColorCellData",
+                [](D& data) {
+                    data.setColor(QUxColor(0.0f, 0.0f, 1.0f));
+                    QCOMPARE(data.color().getQColor(), QColor(Qt::blue));
+                })
+        .op("setColor", [](D& data, float v) {
+            data.setColor(hsv(v, v, v));
+            data.color().getGammaQColor();
+        });
+
+    using B = QUxWhiteBalance;
+    sweep
+        .add<B>("QUxWhiteBalance", sized<B>,
+                [](B& b) {
+                    QVERIFY(b.minimum() <= b.value() && b.value() <= b.maximum());
+                    b.setMinimum(1000);
+                    b.setMaximum(15000);
+                    b.setValue(5000);
+                    QCOMPARE(b.value(), 5000);
+                    QCOMPARE(b.findChild<QSlider*>()->value(), 5000);
+                })
+        .ops("setValue", &B::setValue, "setMinimum", &B::setMinimum, "setMaximum", &B::setMaximum, "setStep",
+             &B::setStep, "setTicks", &B::setTicks, "setSuffix", &B::setSuffix, "setTrailer", &B::setTrailer,
+             "setEpilog", &B::setEpilog)
+        .op("setMinimum,setMaximum",
+            [](B& b, uxHostile::Range<int> r) {
+                b.setMinimum(r.low);
+                b.setMaximum(r.high);
+            })
+        .ctor("QUxWhiteBalance(parent,name)", named<B>)
+        .ctor("QUxWhiteBalance(parent,nullptr)", [](const char* p) { return std::make_shared<B>(nullptr, p); });
+
+    using L = QUxLed;
+    sweep
+        .add<L>("QUxLed", sized<L, 16, 16>,
+                [](L& led) {
+                    led.setValue(true);
+                    led.setOnColor(L::GREEN);
+                    led.setOnShape(L::SQUARE);
+                    const QColor centre = uxTest::grab(&led).pixelColor(8, 8);
+                    QVERIFY(centre.green() > centre.red());
+                })
+        .ops("setOnColor", &L::setOnColor, "setOffColor", &L::setOffColor, "setOnShape", &L::setOnShape, "setOffShape",
+             &L::setOffShape)
+        .op("iconPath", [](L&, Enum e) {
+            QVERIFY(L::iconPath(e.as<L::ledShape>(), L::RED).isEmpty());
+            QVERIFY(L::iconPath(L::CIRCLE, e.as<L::ledColor>()).isEmpty());
+        });
+}
+
+const uxHostile::Sweep& theSweep()
+{
+    static const uxHostile::Sweep sweep = [] {
+        uxHostile::Sweep s;
+        addValues(s);
+        addSpinBoxes(s);
+        addSliders(s);
+        addWheels(s);
+        addVectors(s);
+        addColorControls(s);
+        return s;
+    }();
+    return sweep;
+}
+
+using FieldMaker = std::function<std::shared_ptr<QWidget>()>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(FieldMaker)
+
+class tst_hostileInput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale::c());
+        qInfo("%d hostile (class, operation, input) cases", theSweep().size());
+    }
+
+    void everyOperationSurvivesHostileInput_data() { theSweep().addRows(); }
+    void everyOperationSurvivesHostileInput() { theSweep().runRow(); }
+
+    void shouldSurvivePastedTextInEveryNumericField_data()
+    {
+        QTest::addColumn<FieldMaker>("make");
+        QTest::addColumn<QString>("text");
+        const std::pair<const char*, FieldMaker> fields[] = {
+            {"QUxDoubleSpiner", [] { return std::make_shared<QUxDoubleSpiner>(); }},
+            {"QUxSpiner", [] { return std::make_shared<QUxSpiner>(); }},
+            {"QUxSlider", [] { return std::make_shared<QUxSlider>(); }},
+            {"QUxIntegerSlider", [] { return std::make_shared<QUxIntegerSlider>(); }},
+            {"QUxWheelPrec", [] { return std::make_shared<QUxWheelPrec>(); }},
+            {"QUxWhiteBalance", [] { return std::make_shared<QUxWhiteBalance>(); }}};
+        const int half = 1 << 19;
+        const std::pair<const char*, QString> texts[] = {
+            {"1MB letters", uxHostile::megabyte()},
+            {"1MB sums", QStringLiteral("1+").repeated(half) + QLatin1Char('1')},
+            {"1MB relative sums", QStringLiteral("+=") + QStringLiteral("1+").repeated(half) + QLatin1Char('1')},
+            {"1MB points and blanks", QStringLiteral(". ").repeated(half)},
+            {"100KB parentheses",
+             QString(50000, QLatin1Char('(')) + QLatin1Char('1') + QString(50000, QLatin1Char(')'))}};
+        for (const auto& [field, make] : fields)
+            for (const auto& [name, text] : texts)
+                QTest::addRow("%s %s", field, name) << make << text;
+    }
+
+    void shouldSurvivePastedTextInEveryNumericField()
+    {
+        QFETCH(FieldMaker, make);
+        QFETCH(QString, text);
+        const std::shared_ptr<QWidget> field = make();
+        auto* spin = qobject_cast<QAbstractSpinBox*>(field.get());
+        spin = spin ? spin : field->findChild<QAbstractSpinBox*>();
+        // A paste ends in insert(), which keeps what fits the line edit; the evaluator gets the whole text too.
+        if (auto* ux = qobject_cast<QUxDoubleSpiner*>(spin)) {
+            int pos = 0;
+            QString whole = text;
+            ux->validate(whole, pos);
+            QVERIFY(!std::isnan(ux->valueFromText(text)));
+        }
+        auto* edit = spin->findChild<QLineEdit*>();
+        edit->selectAll();
+        edit->insert(text);
+        QTest::keyClick(spin, Qt::Key_Return);
+        QVERIFY(!uxTest::grab(field.get()).isNull());
+        if (auto* d = qobject_cast<QDoubleSpinBox*>(spin)) {
+            QVERIFY(!std::isnan(d->value()));
+            d->setValue(d->minimum() + 1);
+            QCOMPARE(d->value(), d->minimum() + 1);
+        } else if (auto* i = qobject_cast<QSpinBox*>(spin)) {
+            i->setValue(i->minimum() + 1);
+            QCOMPARE(i->value(), i->minimum() + 1);
+        }
+    }
+
+    // Regressions of crashes the sweep found.
+
+    void shouldNotCrashOnInfiniteConstantChannel()
+    {
+        // each infinity re-entered the channel setter until the stack ran out
+        QUxColorField field;
+        field.setMode(QUxColorField::Green);
+        field.setConstantChannel(-qInf());
+        QCOMPARE(field.getConstantChannel(), -FLT_MAX);
+        field.setMode(QUxColorField::Hue);
+        field.setConstantChannel(qInf());
+        QCOMPARE(field.getConstantChannel(), FLT_MAX);
+    }
+
+    void shouldNotCrashOnColorDropOnSwatchOutsidePalette()
+    {
+        QUxColorArray array;
+        QUxColorCell cell(&array, -1);
+        dropColor(&cell, Qt::red);
+        QCOMPARE(array.currentIndex(), -1);
+    }
+
+    void shouldNotCrashOnSwatchWithoutArray()
+    {
+        QUxColorCell cell(nullptr, 0);
+        QVERIFY(!uxTest::grab(&cell).isNull());
+        dropColor(&cell, Qt::red);
+        click(&cell);
+        QCOMPARE(cell.colorArray(), nullptr);
+    }
+};
+
+QTEST_MAIN(tst_hostileInput)
+#include "tst_hostileInput.moc"
