@@ -11,6 +11,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -461,7 +462,9 @@ void QUxColorFieldPrivate::setChannel(QUxColorField::Mode m, float v)
     static const Setter setters[] = {&QUxColorField::setHue,   &QUxColorField::setSaturation, &QUxColorField::setValue,
                                      &QUxColorField::setRed,   &QUxColorField::setGreen,      &QUxColorField::setBlue,
                                      &QUxColorField::setLstar, &QUxColorField::setAstar,      &QUxColorField::setBstar};
-    (q->*setters[m])(v);
+    const int index = int(m);
+    if (index >= 0 && index < int(std::size(setters)))
+        (q->*setters[index])(v);
 }
 
 QUxColor QUxColorFieldPrivate::colorAt(const QPoint& pos) const
