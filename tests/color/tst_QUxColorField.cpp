@@ -392,6 +392,7 @@ private slots:
             bottomRight(kWidth - 1, kHeight - 1);
         // x = 0.25 * 200, y = (1 - 0.75) * 100
         QTest::newRow("inside") << Marker{F::Hue, HSV, {120, 0.25f, 0.75f}, QPoint(50, 25)};
+        QTest::newRow("on a light plane") << Marker{F::Hue, HSV, {60, 0.1f, 0.95f}, QPoint(20, 5)};
         QTest::newRow("Lab beyond a* and below b*") << Marker{F::Lstar, Lab, {50, 200, -200}, bottomRight};
         QTest::newRow("Lab before a* and above b*") << Marker{F::Lstar, Lab, {50, -400, 400}, topLeft};
         QTest::newRow("L* above 100") << Marker{F::Bstar, Lab, {140, -300, 0}, topLeft};
@@ -413,8 +414,18 @@ private slots:
         QCOMPARE(painted.pixelColor(centre), QColor(Qt::black));
         if (!QRect(3, 3, kWidth - 6, kHeight - 6).contains(centre))
             return; // the white ring is cut at the edges
-        const QColor ring = painted.pixelColor(centre.x(), centre.y() - 3);
-        QVERIFY2(ring.red() > 200 && ring.green() > 200 && ring.blue() > 200, qPrintable(ring.name()));
+        // Aliased: every pixel near the marker is the plane's, pure white or pure black.
+        const QImage plane = field.fieldImage();
+        for (int y = centre.y() - 4; y <= centre.y() + 4; ++y)
+            for (int x = centre.x() - 4; x <= centre.x() + 4; ++x) {
+                const QRgb pixel = painted.pixel(x, y);
+                QVERIFY2(pixel == plane.pixel(x, y) || pixel == qRgb(255, 255, 255) || pixel == qRgb(0, 0, 0),
+                         qPrintable(QStringLiteral("%1,%2: %3").arg(x).arg(y).arg(pixel, 0, 16)));
+            }
+        for (const QPoint& ringTip : {QPoint(0, -3), QPoint(-3, 0), QPoint(0, 3), QPoint(3, 0)})
+            QCOMPARE(painted.pixelColor(centre + ringTip), QColor(Qt::white));
+        for (const QPoint& ringTip : {QPoint(0, -2), QPoint(-2, 0), QPoint(0, 2), QPoint(2, 0)})
+            QCOMPARE(painted.pixelColor(centre + ringTip), QColor(Qt::black));
     }
 
     void shouldRepaintPlaneAfterEachOfItsInputsChanges()

@@ -599,19 +599,20 @@ QRect QUxColorFieldPrivate::markerBounds() const
 
 void QUxColorFieldPrivate::drawMarker(QPainter& painter) const
 {
-    const QPoint pixel = markerPosition();
-    const QPointF centre(pixel.x() + 0.5, pixel.y() + 0.5);
+    const QPointF centre = markerPosition();
     const qreal sx = uxPlatform::getDpiScaleX();
     const qreal sy = uxPlatform::getDpiScaleY();
-    painter.setRenderHint(QPainter::Antialiasing);
+    const auto square = [&](qreal radius) {
+        return QRectF(centre - QPointF(radius * sx, radius * sy), centre + QPointF(radius * sx, radius * sy));
+    };
+    // Aliased on purpose: a blended ring reads grey on light planes.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, 1.0));
-    painter.drawEllipse(centre, kOuterRingRadius * sx, kOuterRingRadius * sy);
-    painter.setPen(QPen(Qt::black, 1.0));
-    painter.drawEllipse(centre, kInnerRingRadius * sx, kInnerRingRadius * sy);
-    // A filled pixel rather than drawPoint(): antialiased points spread over
-    // their neighbours and leave the exact spot grey.
-    painter.fillRect(QRectF(pixel, QSizeF(1.0, 1.0)), Qt::black);
+    painter.setPen(Qt::white);
+    painter.drawEllipse(square(kOuterRingRadius));
+    painter.setPen(Qt::black);
+    painter.drawEllipse(square(kInnerRingRadius));
+    painter.drawPoint(centre);
 }
 
 void QUxColorFieldPrivate::requestRepaint()
