@@ -78,8 +78,9 @@ private slots:
     void ticksAreSpacedByDecade_data()
     {
         QTest::addColumn<Ints5>("v"); // end frame (start 0), width, first tick's x, x step, tick count
-        // Ticks every 1, 5, 10, 50 and 50000 frames, none on the start frame.
+        // Ticks every 1, 5, 5, 10, 50 and 50000 frames, none on the start frame.
         QTest::newRow("5 frames, 50 px each") << Ints5{5, 300, 50, 50, 5};
+        QTest::newRow("15 frames, 20 px each") << Ints5{15, 320, 100, 100, 3};
         QTest::newRow("100 frames, 3 px each") << Ints5{100, 303, 15, 15, 20};
         QTest::newRow("250 frames, 2 px each") << Ints5{250, 502, 20, 20, 25};
         QTest::newRow("1000 frames, 2 px each") << Ints5{1000, 2002, 100, 100, 20};

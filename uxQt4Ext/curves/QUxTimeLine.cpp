@@ -356,15 +356,16 @@ int QUxTimeLine::toPixel(double frame) const
 
 int QUxTimeLine::getFrameOffset() const
 {
-    const double frames = double(d->endFrame) - double(d->startFrame);
-    if (frames <= 10.0)
+    // Whole frames throughout: the decade count divides the frame count as an integer.
+    const qint64 frames = qint64(d->endFrame) - qint64(d->startFrame);
+    if (frames <= 10)
         return 1;
     int power = -1;
-    for (double rest = frames; rest > 1.0; rest /= 10.0)
+    for (qint64 rest = frames; rest > 1; rest /= 10)
         ++power;
-    const double decade = std::pow(10.0, power);
+    const qint64 decade = qRound64(std::pow(10.0, power));
     const double unit = std::pow(10.0, qMax(power, 1) - 1);
-    const double leading = std::floor(frames / decade);
-    const int factor = leading < 3.0 ? 1 : leading > 4.0 ? 5 : 2;
+    const qint64 leading = frames / decade;
+    const int factor = leading < 3 ? 1 : leading > 4 ? 5 : 2;
     return uxTimeLineMath::saturate(factor * unit);
 }
