@@ -7,6 +7,7 @@
 #include <QUxColorCellData.h>
 #include <QUxColorField.h>
 #include <QUxDoubleSpiner.h>
+#include <QUxGraphEditor.h>
 #include <QUxIntVector2DSlider.h>
 #include <QUxIntVector2DSpiner.h>
 #include <QUxIntVector3DSlider.h>
@@ -18,6 +19,8 @@
 #include <QUxSlider.h>
 #include <QUxSliderSwitch.h>
 #include <QUxSpiner.h>
+#include <QUxTimeLine.h>
+#include <QUxTimeLineRange.h>
 #include <QUxVec2Control.h>
 #include <QUxVec2SliderControl.h>
 #include <QUxVec3Control.h>
@@ -668,6 +671,52 @@ void addColorControls(uxHostile::Sweep& sweep)
         });
 }
 
+// The class tests hold the exact answers to bad frames, ranges and curves; here every setter meets every input.
+void addCurvesAndTime(uxHostile::Sweep& sweep)
+{
+    using G = QUxGraphEditor;
+    sweep
+        .add<G>("QUxGraphEditor", sized<G, 120, 120>,
+                [](G& g) {
+                    g.setMinX(0), g.setMaxX(1), g.setMinY(0), g.setMaxY(1);
+                    g.setLuminanceCurve({{0.0f, 0.0f}, {1.0f, 1.0f}});
+                    g.setLuminanceCurve({{0.0f, 0.5f}, {1.0f, 2.0f}}); // same count: a move, held in range
+                    QCOMPARE(g.luminanceCurve(), (QList<QVector2D>{{0.0f, 0.5f}, {1.0f, 1.0f}}));
+                })
+        .ops("setMode", &G::setMode, "setPointSize", &G::setPointSize, "setLineWidth", &G::setLineWidth, "setMinX",
+             &G::setMinX, "setMaxX", &G::setMaxX, "setMinY", &G::setMinY, "setMaxY", &G::setMaxY)
+        .op("setLuminanceCurve", [](G& g, float v) {
+            g.setLuminanceCurve({{v, v}, {0.5f, v}, {v, 0.5f}});
+        });
+
+    using T = QUxTimeLine;
+    sweep
+        .add<T>("QUxTimeLine", sized<T, 300, 30>,
+                [](T& t) {
+                    t.setStartFrame(0);
+                    t.setEndFrame(99); // 3 pixels a frame
+                    send(&t, QEvent::MouseButtonPress, Qt::LeftButton, {31, 10});
+                    QCOMPARE(t.currentFrame(), 10);
+                })
+        .ops("setStartFrame", &T::setStartFrame, "setEndFrame", &T::setEndFrame, "setFps", &T::setFps,
+             "setCurrentFrame", qOverload<int>(&T::setCurrentFrame))
+        .op("setKeyFrames", [](T& t, float v) {
+            t.setKeyFrames({{v, Qt::red}, {-v, QColor()}});
+        });
+
+    using R = QUxTimeLineRange;
+    sweep
+        .add<R>("QUxTimeLineRange", sized<R, 200, 24>,
+                [](R& r) {
+                    r.setStartFrame(0);
+                    r.setEndFrame(50);
+                    r.setRangeEndFrame(20);
+                    QCOMPARE(r.rangeEndFrame(), 20);
+                })
+        .ops("setStartFrame", &R::setStartFrame, "setEndFrame", &R::setEndFrame, "setRangeStartFrame",
+             &R::setRangeStartFrame, "setRangeEndFrame", &R::setRangeEndFrame);
+}
+
 const uxHostile::Sweep& theSweep()
 {
     static const uxHostile::Sweep sweep = [] {
@@ -678,6 +727,7 @@ const uxHostile::Sweep& theSweep()
         addWheels(s);
         addVectors(s);
         addColorControls(s);
+        addCurvesAndTime(s);
         return s;
     }();
     return sweep;
