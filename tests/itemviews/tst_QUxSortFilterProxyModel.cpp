@@ -63,6 +63,7 @@ private slots:
         Proxy proxy;
         proxy.setSourceModel(&source);
         QCOMPARE(proxy.lessThan(left, right), less);
+        QCOMPARE(proxy.lessThan(right, left), !less && left != right);
         QCOMPARE(proxy.lessThan(source.index(0), source.index(1)), less);
         QCOMPARE(proxy.lessThan(QModelIndex(), source.index(0)), !left.isEmpty()); // reads as ""
     }
