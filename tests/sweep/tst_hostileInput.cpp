@@ -6,6 +6,8 @@
 #include <QUxColorCell.h>
 #include <QUxColorCellData.h>
 #include <QUxColorField.h>
+#include <QUxCustomDelegate.h>
+#include <QUxDataWidgetMapper.h>
 #include <QUxDoubleSpiner.h>
 #include <QUxGraphEditor.h>
 #include <QUxIntVector2DSlider.h>
@@ -16,11 +18,14 @@
 #include <QUxIntVector4DSpiner.h>
 #include <QUxIntegerSlider.h>
 #include <QUxLed.h>
+#include <QUxScrollBarPositionSaver.h>
 #include <QUxSlider.h>
 #include <QUxSliderSwitch.h>
+#include <QUxSortFilterProxyModel.h>
 #include <QUxSpiner.h>
 #include <QUxTimeLine.h>
 #include <QUxTimeLineRange.h>
+#include <QUxTreeWidget.h>
 #include <QUxVec2Control.h>
 #include <QUxVec2SliderControl.h>
 #include <QUxVec3Control.h>
@@ -30,13 +35,18 @@
 #include <QUxWheel.h>
 #include <QUxWheelPrec.h>
 #include <QUxWhiteBalance.h>
+#include <uxHeaderViewBase.h>
 #include <uxSignalBlocker.h>
 #include <uxUIStyle.h>
 #include <uxUIUtils.h>
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QSlider>
+#include <QStandardItemModel>
+#include <QTreeView>
 
 #include <cmath>
 
@@ -717,6 +727,142 @@ void addCurvesAndTime(uxHostile::Sweep& sweep)
              &R::setRangeStartFrame, "setRangeEndFrame", &R::setRangeEndFrame);
 }
 
+/// Three columns of text, one row per text.
+std::shared_ptr<QStandardItemModel> table(const QStringList& texts)
+{
+    auto model = std::make_shared<QStandardItemModel>(0, 3);
+    for (const QString& text : texts)
+        model->appendRow({new QStandardItem(text), new QStandardItem(text), new QStandardItem(text)});
+    return model;
+}
+
+void addItemViews(uxHostile::Sweep& sweep)
+{
+    using P = QUxSortFilterProxyModel;
+    sweep
+        .add<P>("QUxSortFilterProxyModel",
+                [](P& p) {
+                    const auto model = table({QStringLiteral("item10"), QStringLiteral("item2")});
+                    p.setSourceModel(model.get());
+                    p.setSortRole(Qt::DisplayRole);
+                    p.sort(0);
+                    QCOMPARE(p.index(0, 0).data().toString(), QStringLiteral("item2"));
+                    p.setSourceModel(nullptr);
+                })
+        .op("sort rows of",
+            [](P& p, const QString& s) {
+                const auto model = table({s, s.left(64), QStringLiteral("1"), s});
+                p.setSourceModel(model.get());
+                p.sort(0);
+                p.setSourceModel(nullptr);
+            })
+        .op("setSortRole, sort",
+            [](P& p, int role) {
+                const auto model = table({QStringLiteral("b"), QStringLiteral("a")});
+                p.setSourceModel(model.get());
+                p.setSortRole(role);
+                p.sort(0);
+                p.setSourceModel(nullptr);
+            })
+        .op("sort column", [](P& p, int column) {
+            const auto model = table({QStringLiteral("b"), QStringLiteral("a")});
+            p.setSourceModel(model.get());
+            p.sort(column);
+            p.setSourceModel(nullptr);
+        });
+
+    using H = uxHeaderViewBase;
+    struct Header
+    {
+        std::shared_ptr<QStandardItemModel> model = table({QStringLiteral("x")});
+        H view{model.get()};
+    };
+    sweep
+        .add<H>(
+            "uxHeaderViewBase",
+            [] {
+                const auto header = std::make_shared<Header>();
+                return std::shared_ptr<H>(header, &header->view);
+            },
+            [](H& h) {
+                for (int column : {0, 2})
+                    h.setColumnVisible(column, true);
+                h.setColumnVisible(1, false);
+                QCOMPARE(h.getVisibleColumnCount(), 2);
+                h.setColumnVisible(1, true);
+                QCOMPARE(h.getVisibleColumnCount(), 3);
+            })
+        .ops(
+            "setSectionHideable(v,false)", [](H& h, int v) { h.setSectionHideable(v, false); }, "sectionHideable",
+            [](H& h, int v) { h.sectionHideable(v); }, "getHeaderName", [](H& h, int v) { h.getHeaderName(v); },
+            "setColumnVisible(v,false)", [](H& h, int v) { h.setColumnVisible(v, false); });
+
+    using D = QUxCustomDelegate;
+    sweep.add<D>("QUxCustomDelegate", [](D& d) { QCOMPARE(d.underlinePenStyle(), Qt::DotLine); })
+        .op("setUnderlinePenStyle, paint",
+            [](D& d, Enum e) {
+                d.setUnderlinePenStyle(e.masked<Qt::PenStyle>(0xf));
+                d.setIsUnderlinedFunction([](const QModelIndex&) { return true; });
+                const auto model = table({QStringLiteral("<b>x</b>")});
+                QTreeView view;
+                view.setModel(model.get());
+                view.setItemDelegate(&d);
+                view.resize(100, 60);
+                QVERIFY(!uxTest::grab(&view).isNull());
+                d.setUnderlinePenStyle(Qt::DotLine);
+            })
+        .op("paint text", [](D& d, const QString& s) {
+            const auto model = table({s.left(4096)});
+            QTreeView view;
+            view.setModel(model.get());
+            view.setItemDelegate(&d);
+            view.resize(100, 60);
+            QVERIFY(!uxTest::grab(&view).isNull());
+        });
+
+    sweep.add<QUxTreeWidget>("QUxTreeWidget", sized<QUxTreeWidget>, [](QUxTreeWidget& t) { QVERIFY(t.popupMenu()); })
+        .op("initWidget", [](QUxTreeWidget& t, QWidget* owner) { t.initWidget(owner); })
+        .op("addAcceptedDropFormat", [](QUxTreeWidget& t, const QString& s) {
+            t.initWidget(&t);
+            t.addAcceptedDropFormat(s);
+        });
+
+    sweep
+        .add<QUxDataWidgetMapper>("QUxDataWidgetMapper",
+                                  [](QUxDataWidgetMapper& m) {
+                                      const auto model = table({QStringLiteral("x")});
+                                      QLineEdit edit;
+                                      m.setModel(model.get());
+                                      m.addMapping(&edit, 0);
+                                      m.toFirst();
+                                      QCOMPARE(edit.text(), QStringLiteral("x"));
+                                      m.clearMapping();
+                                  })
+        .op("addMapping(nullptr,..)", [](QUxDataWidgetMapper& m, QWidget* w) { m.addMapping(w, 0); })
+        .op("addMapping(combo,section)", [](QUxDataWidgetMapper& m, int section) {
+            const auto model = table({QStringLiteral("x")});
+            QComboBox combo;
+            m.setModel(model.get());
+            m.addMapping(&combo, section);
+            m.toFirst();
+            m.clearMapping();
+        });
+
+    sweep
+        .add<QScrollBar>("QUxScrollBarPositionSaver",
+                         [](QScrollBar& bar) {
+                             bar.setRange(0, 100);
+                             bar.setValue(40);
+                             {
+                                 const QUxScrollBarPositionSaver keep(&bar);
+                                 bar.setValue(90);
+                             }
+                             QCOMPARE(bar.value(), 40);
+                         })
+        .op("QUxScrollBarPositionSaver(nullptr)",
+            [](QScrollBar&, QScrollBar* bar) { const QUxScrollBarPositionSaver keep(bar); });
+}
+
 const uxHostile::Sweep& theSweep()
 {
     static const uxHostile::Sweep sweep = [] {
@@ -728,6 +874,7 @@ const uxHostile::Sweep& theSweep()
         addVectors(s);
         addColorControls(s);
         addCurvesAndTime(s);
+        addItemViews(s);
         return s;
     }();
     return sweep;
@@ -826,6 +973,16 @@ private slots:
         QUxColorCell cell(&array, -1);
         dropColor(&cell, Qt::red);
         QCOMPARE(array.currentIndex(), -1);
+    }
+
+    void shouldNotCrashOnSortByLargeNegativeColumn()
+    {
+        const auto model = table({QStringLiteral("b"), QStringLiteral("a")});
+        QUxSortFilterProxyModel proxy;
+        proxy.setSourceModel(model.get());
+        proxy.sort(0);
+        proxy.sort(INT_MIN);
+        QCOMPARE(proxy.index(0, 0).data().toString(), QStringLiteral("a"));
     }
 
     void shouldNotCrashOnSwatchWithoutArray()

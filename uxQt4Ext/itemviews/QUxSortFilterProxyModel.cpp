@@ -143,6 +143,14 @@ void QUxSortFilterProxyModel::setSourceModel(QAbstractItemModel* model)
     QSortFilterProxyModel::setSourceModel(model);
 }
 
+void QUxSortFilterProxyModel::sort(int column, Qt::SortOrder order)
+{
+    // The base class indexes with a large negative column unchecked.
+    if (column < -1)
+        return;
+    QSortFilterProxyModel::sort(column, order);
+}
+
 bool QUxSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     // A source model that went away, or a new sort role, makes every key stale.

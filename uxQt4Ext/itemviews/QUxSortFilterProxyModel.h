@@ -28,6 +28,8 @@ public:
     ~QUxSortFilterProxyModel() override;
 
     void setSourceModel(QAbstractItemModel* sourceModel) override;
+    /// As the base class; a column below -1 (which means unsorted) is ignored.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
