@@ -736,39 +736,44 @@ std::shared_ptr<QStandardItemModel> table(const QStringList& texts)
     return model;
 }
 
+/// @p model in a painted tree view, each cell painted by @p delegate.
+void paintThrough(QAbstractItemDelegate& delegate, const std::shared_ptr<QStandardItemModel>& model)
+{
+    QTreeView view;
+    view.setModel(model.get());
+    view.setItemDelegate(&delegate);
+    view.resize(100, 60);
+    QVERIFY(!uxTest::grab(&view).isNull());
+}
+
 void addItemViews(uxHostile::Sweep& sweep)
 {
     using P = QUxSortFilterProxyModel;
+    // Each case sorts a table of its own: the input goes into the table or the sort.
+    const auto sorted = [](P& p, const QStringList& rows, int role, int column) {
+        const auto model = table(rows);
+        p.setSourceModel(model.get());
+        p.setSortRole(role);
+        p.sort(column);
+        const QString first = p.index(0, 0).data().toString();
+        p.setSourceModel(nullptr);
+        return first;
+    };
     sweep
         .add<P>("QUxSortFilterProxyModel",
-                [](P& p) {
-                    const auto model = table({QStringLiteral("item10"), QStringLiteral("item2")});
-                    p.setSourceModel(model.get());
-                    p.setSortRole(Qt::DisplayRole);
-                    p.sort(0);
-                    QCOMPARE(p.index(0, 0).data().toString(), QStringLiteral("item2"));
-                    p.setSourceModel(nullptr);
+                [sorted](P& p) {
+                    QCOMPARE(sorted(p, {"item10", "item2"}, Qt::DisplayRole, 0), QString("item2"));
                 })
         .op("sort rows of",
-            [](P& p, const QString& s) {
-                const auto model = table({s, s.left(64), QStringLiteral("1"), s});
-                p.setSourceModel(model.get());
-                p.sort(0);
-                p.setSourceModel(nullptr);
+            [sorted](P& p, const QString& s) {
+                sorted(p, {s, s.left(64), "1", s}, Qt::DisplayRole, 0);
             })
         .op("setSortRole, sort",
-            [](P& p, int role) {
-                const auto model = table({QStringLiteral("b"), QStringLiteral("a")});
-                p.setSourceModel(model.get());
-                p.setSortRole(role);
-                p.sort(0);
-                p.setSourceModel(nullptr);
+            [sorted](P& p, int role) {
+                sorted(p, {"b", "a"}, role, 0);
             })
-        .op("sort column", [](P& p, int column) {
-            const auto model = table({QStringLiteral("b"), QStringLiteral("a")});
-            p.setSourceModel(model.get());
-            p.sort(column);
-            p.setSourceModel(nullptr);
+        .op("sort column", [sorted](P& p, int column) {
+            sorted(p, {"b", "a"}, Qt::DisplayRole, column);
         });
 
     using H = uxHeaderViewBase;
@@ -777,21 +782,17 @@ void addItemViews(uxHostile::Sweep& sweep)
         std::shared_ptr<QStandardItemModel> model = table({QStringLiteral("x")});
         H view{model.get()};
     };
+    const auto header = [] {
+        const auto owner = std::make_shared<Header>();
+        return std::shared_ptr<H>(owner, &owner->view);
+    };
     sweep
-        .add<H>(
-            "uxHeaderViewBase",
-            [] {
-                const auto header = std::make_shared<Header>();
-                return std::shared_ptr<H>(header, &header->view);
-            },
-            [](H& h) {
-                for (int column : {0, 2})
-                    h.setColumnVisible(column, true);
-                h.setColumnVisible(1, false);
-                QCOMPARE(h.getVisibleColumnCount(), 2);
-                h.setColumnVisible(1, true);
-                QCOMPARE(h.getVisibleColumnCount(), 3);
-            })
+        .add<H>("uxHeaderViewBase", header,
+                [](H& h) {
+                    for (int column : {0, 1, 2})
+                        h.setColumnVisible(column, column != 1);
+                    QCOMPARE(h.getVisibleColumnCount(), 2);
+                })
         .ops(
             "setSectionHideable(v,false)", [](H& h, int v) { h.setSectionHideable(v, false); }, "sectionHideable",
             [](H& h, int v) { h.sectionHideable(v); }, "getHeaderName", [](H& h, int v) { h.getHeaderName(v); },
@@ -803,49 +804,35 @@ void addItemViews(uxHostile::Sweep& sweep)
             [](D& d, Enum e) {
                 d.setUnderlinePenStyle(e.masked<Qt::PenStyle>(0xf));
                 d.setIsUnderlinedFunction([](const QModelIndex&) { return true; });
-                const auto model = table({QStringLiteral("<b>x</b>")});
-                QTreeView view;
-                view.setModel(model.get());
-                view.setItemDelegate(&d);
-                view.resize(100, 60);
-                QVERIFY(!uxTest::grab(&view).isNull());
+                paintThrough(d, table({QStringLiteral("<b>x</b>")}));
                 d.setUnderlinePenStyle(Qt::DotLine);
             })
-        .op("paint text", [](D& d, const QString& s) {
-            const auto model = table({s.left(4096)});
-            QTreeView view;
-            view.setModel(model.get());
-            view.setItemDelegate(&d);
-            view.resize(100, 60);
-            QVERIFY(!uxTest::grab(&view).isNull());
-        });
+        .op("paint text", [](D& d, const QString& s) { paintThrough(d, table({s.left(4096)})); });
 
-    sweep.add<QUxTreeWidget>("QUxTreeWidget", sized<QUxTreeWidget>, [](QUxTreeWidget& t) { QVERIFY(t.popupMenu()); })
-        .op("initWidget", [](QUxTreeWidget& t, QWidget* owner) { t.initWidget(owner); })
-        .op("addAcceptedDropFormat", [](QUxTreeWidget& t, const QString& s) {
-            t.initWidget(&t);
-            t.addAcceptedDropFormat(s);
-        });
+    using T = QUxTreeWidget;
+    sweep.add<T>("QUxTreeWidget", sized<T>, [](T& t) { QVERIFY(t.popupMenu()); })
+        .op("initWidget", [](T& t, QWidget* owner) { t.initWidget(owner); })
+        .op("addAcceptedDropFormat", [](T& t, const QString& s) { t.initWidget(&t), t.addAcceptedDropFormat(s); });
 
+    using M = QUxDataWidgetMapper;
+    const auto mapped = [](M& m, QWidget* widget, int section) {
+        const auto model = table({QStringLiteral("x")});
+        m.setModel(model.get());
+        m.addMapping(widget, section);
+        m.toFirst();
+        m.clearMapping();
+    };
     sweep
-        .add<QUxDataWidgetMapper>("QUxDataWidgetMapper",
-                                  [](QUxDataWidgetMapper& m) {
-                                      const auto model = table({QStringLiteral("x")});
-                                      QLineEdit edit;
-                                      m.setModel(model.get());
-                                      m.addMapping(&edit, 0);
-                                      m.toFirst();
-                                      QCOMPARE(edit.text(), QStringLiteral("x"));
-                                      m.clearMapping();
-                                  })
-        .op("addMapping(nullptr,..)", [](QUxDataWidgetMapper& m, QWidget* w) { m.addMapping(w, 0); })
-        .op("addMapping(combo,section)", [](QUxDataWidgetMapper& m, int section) {
-            const auto model = table({QStringLiteral("x")});
+        .add<M>("QUxDataWidgetMapper",
+                [mapped](M& m) {
+                    QLineEdit edit;
+                    mapped(m, &edit, 0);
+                    QCOMPARE(edit.text(), QStringLiteral("x"));
+                })
+        .op("addMapping(nullptr,..)", [mapped](M& m, QWidget* w) { mapped(m, w, 0); })
+        .op("addMapping(combo,section)", [mapped](M& m, int section) {
             QComboBox combo;
-            m.setModel(model.get());
-            m.addMapping(&combo, section);
-            m.toFirst();
-            m.clearMapping();
+            mapped(m, &combo, section);
         });
 
     sweep
