@@ -12,7 +12,7 @@ CMAKE_FLAGS += -DUX_SANITIZE=ON
 export LSAN_OPTIONS := suppressions=$(CURDIR)/lsan.supp
 endif
 
-.PHONY: all deps configure build test gallery bench format clean
+.PHONY: all deps bench-deps configure build test gallery bench format clean
 
 all: build
 
@@ -34,7 +34,11 @@ gallery: configure
 	cmake --build $(BUILD) -j $(JOBS) --target uxGallery
 	@scripts/run-gallery $(BUILD)
 
-bench: configure
+# The benchmarks also compare against a package that nothing else needs.
+bench-deps:
+	@scripts/install-deps --bench
+
+bench: bench-deps configure
 	cmake --build $(BUILD) -j $(JOBS) --target benchmarks
 	@scripts/run-bench $(BUILD)
 
