@@ -1,6 +1,8 @@
 #include <uxHostileInput.h>
 #include <uxTestSupport.h>
 
+#include <QUxCachedSelectionModel.h>
+#include <QUxCachedTreeView.h>
 #include <QUxColor.h>
 #include <QUxColorArray.h>
 #include <QUxColorCell.h>
@@ -808,6 +810,39 @@ void addItemViews(uxHostile::Sweep& sweep)
                 d.setUnderlinePenStyle(Qt::DotLine);
             })
         .op("paint text", [](D& d, const QString& s) { paintThrough(d, table({s.left(4096)})); });
+
+    using V = QUxCachedTreeView;
+    sweep
+        .add<V>("QUxCachedTreeView", sized<V>,
+                [](V& v) {
+                    const auto model = table({QStringLiteral("x")});
+                    v.setModel(model.get());
+                    QCOMPARE(v.model()->rowCount(), 1);
+                    v.setModel(nullptr);
+                })
+        .op("setModel", [](V& v, QAbstractItemModel* model) { v.setModel(model); })
+        .op("setParentsExpanded(row)", [](V& v, int row) {
+            const auto model = table({QStringLiteral("x")});
+            v.setModel(model.get());
+            v.setParentsExpanded(model->index(row, 0), true);
+            v.setModel(nullptr);
+        });
+    using S = QUxCachedSelectionModel;
+    sweep
+        .add<S>(
+            "QUxCachedSelectionModel", [] { return std::make_shared<S>(nullptr); },
+            [](S& s) {
+                s.deselectAll();
+                QVERIFY(s.sourceModelSelection().isEmpty());
+            })
+        .ctor("QUxCachedSelectionModel(nullptr)", [](QAbstractItemModel* model) { return std::make_shared<S>(model); })
+        .op("select(row)", [](S& s, int row) {
+            const auto model = table({QStringLiteral("x")});
+            s.setModel(model.get());
+            s.select(model->index(row, 0), QItemSelectionModel::Select);
+            model->clear();
+            s.setModel(nullptr);
+        });
 
     using T = QUxTreeWidget;
     sweep.add<T>("QUxTreeWidget", sized<T>, [](T& t) { QVERIFY(t.popupMenu()); })
