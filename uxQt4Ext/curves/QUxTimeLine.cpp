@@ -1,12 +1,10 @@
 #include "QUxTimeLine.h"
 
+#include "uxFrameAccessible_p.h"
 #include "uxTimeLineMath_p.h"
 
 #include <uxPlatform.h>
 
-#include <QAccessible>
-#include <QAccessibleValueInterface>
-#include <QAccessibleWidget>
 #include <QActionGroup>
 #include <QLinearGradient>
 #include <QMenu>
@@ -40,42 +38,19 @@ void drawLabel(QPainter& painter, const QRect& rect, Qt::Alignment vertical, con
 }
 
 /// Reports the current frame as the value of a slider from the start to the end frame.
-class QUxTimeLineAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+class QUxTimeLineAccessible : public uxFrameAccessible
 {
 public:
-    explicit QUxTimeLineAccessible(QUxTimeLine* timeLine) : QAccessibleWidget(timeLine, QAccessible::Slider) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-
-    QString text(QAccessible::Text type) const override
-    {
-        if (type == QAccessible::Value)
-            return QString::number(timeLine()->currentFrame());
-        return QAccessibleWidget::text(type);
-    }
+    explicit QUxTimeLineAccessible(QUxTimeLine* timeLine) : uxFrameAccessible(timeLine) {}
 
     QVariant currentValue() const override { return timeLine()->currentFrame(); }
     void setCurrentValue(const QVariant& value) override { timeLine()->setCurrentFrame(value.toInt()); }
     QVariant minimumValue() const override { return timeLine()->startFrame(); }
     QVariant maximumValue() const override { return timeLine()->endFrame(); }
-    QVariant minimumStepSize() const override { return 1; }
 
 private:
     QUxTimeLine* timeLine() const { return static_cast<QUxTimeLine*>(widget()); }
 };
-
-QAccessibleInterface* timeLineAccessibleFactory(const QString& key, QObject* object)
-{
-    if (key == QLatin1String("QUxTimeLine"))
-        if (auto* timeLine = qobject_cast<QUxTimeLine*>(object))
-            return new QUxTimeLineAccessible(timeLine);
-    return nullptr;
-}
 
 } // namespace
 
@@ -111,8 +86,7 @@ public:
 
 QUxTimeLine::QUxTimeLine(QWidget* parent) : QWidget(parent), d(new QUxTimeLinePrivate)
 {
-    static const bool factoryInstalled = (QAccessible::installFactory(timeLineAccessibleFactory), true);
-    Q_UNUSED(factoryInstalled)
+    uxInstallFrameAccessible<QUxTimeLine, QUxTimeLineAccessible>();
 
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_TranslucentBackground);

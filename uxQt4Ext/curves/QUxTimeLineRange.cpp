@@ -1,12 +1,10 @@
 #include "QUxTimeLineRange.h"
 
+#include "uxFrameAccessible_p.h"
 #include "uxTimeLineMath_p.h"
 
 #include <uxPlatform.h>
 
-#include <QAccessible>
-#include <QAccessibleValueInterface>
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -16,42 +14,25 @@ namespace {
 
 /// Reports the range start as the value of a slider over the whole interval;
 /// the value text names both ends.
-class QUxTimeLineRangeAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+class QUxTimeLineRangeAccessible : public uxFrameAccessible
 {
 public:
-    explicit QUxTimeLineRangeAccessible(QUxTimeLineRange* range) : QAccessibleWidget(range, QAccessible::Slider) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-
-    QString text(QAccessible::Text type) const override
-    {
-        if (type == QAccessible::Value)
-            return QUxTimeLineRange::tr("%1 to %2").arg(range()->rangeStartFrame()).arg(range()->rangeEndFrame());
-        return QAccessibleWidget::text(type);
-    }
+    explicit QUxTimeLineRangeAccessible(QUxTimeLineRange* range) : uxFrameAccessible(range) {}
 
     QVariant currentValue() const override { return range()->rangeStartFrame(); }
     void setCurrentValue(const QVariant& value) override { range()->setRangeStartFrame(value.toInt()); }
     QVariant minimumValue() const override { return range()->startFrame(); }
     QVariant maximumValue() const override { return range()->endFrame(); }
-    QVariant minimumStepSize() const override { return 1; }
+
+protected:
+    QString valueText() const override
+    {
+        return QUxTimeLineRange::tr("%1 to %2").arg(range()->rangeStartFrame()).arg(range()->rangeEndFrame());
+    }
 
 private:
     QUxTimeLineRange* range() const { return static_cast<QUxTimeLineRange*>(widget()); }
 };
-
-QAccessibleInterface* rangeAccessibleFactory(const QString& key, QObject* object)
-{
-    if (key == QLatin1String("QUxTimeLineRange"))
-        if (auto* range = qobject_cast<QUxTimeLineRange*>(object))
-            return new QUxTimeLineRangeAccessible(range);
-    return nullptr;
-}
 
 } // namespace
 
@@ -123,8 +104,7 @@ public:
 
 QUxTimeLineRange::QUxTimeLineRange(QWidget* parent) : QWidget(parent), d(new QUxTimeLineRangePrivate(this))
 {
-    static const bool factoryInstalled = (QAccessible::installFactory(rangeAccessibleFactory), true);
-    Q_UNUSED(factoryInstalled)
+    uxInstallFrameAccessible<QUxTimeLineRange, QUxTimeLineRangeAccessible>();
 
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_TranslucentBackground);
