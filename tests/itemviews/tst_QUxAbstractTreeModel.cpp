@@ -20,7 +20,7 @@ namespace {
 const QString kMime = QStringLiteral("application/x-test-node");
 
 /// A scene graph of a few thousand nodes: root 1, ten top-level nodes 2..11, every later id k under k / 4.
-class Scene : public QUxAbstractTreeModel
+class SceneModel : public QUxAbstractTreeModel
 {
 public:
     struct Node
@@ -33,7 +33,7 @@ public:
     QStringList calls;
     int columns = 1;
 
-    explicit Scene(unsigned last = 3000)
+    explicit SceneModel(unsigned last = 3000)
     {
         nodes[1];
         for (unsigned id = 2; id <= last; ++id)
@@ -100,16 +100,21 @@ protected:
     }
 };
 
-/// The model tester wants the invalid index to be flagged at most drop-enabled; the scene's root
-/// answers the root item's questions instead (so drops land on a view's empty area). This subclass
-/// gives the tester what it checks and leaves every real item to the model under test.
-class TestedScene : public Scene
+/// The scene the tests use, watched by Qt's model tester throughout. The tester wants the invalid
+/// index flagged at most drop-enabled; the model answers it with the root item's flags instead (so
+/// drops land on a view's empty area, see topLevelItemsHaveInvalidParent). This subclass gives the
+/// tester what it checks and leaves every real item to the model under test.
+class Scene : public SceneModel
 {
 public:
+    using SceneModel::SceneModel;
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
-        return index.isValid() ? Scene::flags(index) : Qt::ItemIsDropEnabled;
+        return index.isValid() ? SceneModel::flags(index) : Qt::ItemIsDropEnabled;
     }
+
+private:
+    QAbstractItemModelTester tester{this, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
 /// A view over @p scene, or over a sort and filter proxy of it, with the cached selection model.
@@ -177,6 +182,8 @@ private slots:
         QVERIFY(!scene.parent(scene.index(0, 0)).isValid());
         QCOMPARE(scene.parent(scene.getModelIndex(12)), scene.getModelIndex(3));
         QVERIFY(!scene.getModelIndex(1).isValid());
+        QCOMPARE(SceneModel().flags(QModelIndex()), Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled
+                                                        | Qt::ItemIsDropEnabled | Qt::ItemIsEditable);
     }
 
     void dropRow_data()
@@ -305,8 +312,7 @@ private slots:
 
     void modelTesterPassesThroughResetsRootChangesAndDrops()
     {
-        TestedScene scene;
-        QAbstractItemModelTester tester(&scene, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        Scene scene;
         QUxCachedTreeView view;
         view.setModel(&scene);
         scene.refresh();
