@@ -1,7 +1,6 @@
 #include "QUxScrollableMessageBox.h"
 
 #include <uxLog.h>
-#include <uxPlatform.h>
 
 #include <QGridLayout>
 #include <QLabel>
@@ -39,7 +38,7 @@ void QUxScrollableMessageBox::makeScrollable()
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setWordWrap(false);
     area->setWidget(label);
-    area->setMinimumSize(qRound(600 * uxPlatform::getDpiScaleX()), qRound(600 * uxPlatform::getDpiScaleY()));
+    area->setMinimumSize(600, 600);
     area->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     grid->addWidget(area, 0, 1);
     oldLabel->setText(QStringLiteral(""));
