@@ -2,7 +2,9 @@
 
 #include <QSize>
 
+#include <algorithm>
 #include <array>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -27,7 +29,9 @@ PlatformState& state()
     return s;
 }
 
-int scaled(int base, double scale) { return static_cast<int>(std::lround(base * scale)); }
+int scaled(int base, double scale) { return static_cast<int>(std::lround(std::min(base * scale, double(INT_MAX)))); }
+
+bool known(uxPlatform::IconSize which) { return which >= uxPlatform::MiniIcon && which <= uxPlatform::TreeViewIcon; }
 
 } // namespace
 
@@ -36,18 +40,22 @@ double uxPlatform::getDpiScaleY() { return state().scaleY; }
 
 void uxPlatform::setDpiScale(double scaleX, double scaleY)
 {
-    if (scaleX > 0.0)
+    // No display scales beyond 64: larger factors, NaN and infinities are
+    // refused so that every scaled size still fits an int.
+    const auto acceptable = [](double scale) { return scale > 0.0 && scale <= 64.0; };
+    if (acceptable(scaleX))
         state().scaleX = scaleX;
-    if (scaleY > 0.0)
+    if (acceptable(scaleY))
         state().scaleY = scaleY;
 }
 
-int uxPlatform::iconBaseWidth(IconSize which) { return state().iconSizes[which].width(); }
-int uxPlatform::iconBaseHeight(IconSize which) { return state().iconSizes[which].height(); }
+int uxPlatform::iconBaseWidth(IconSize which) { return known(which) ? state().iconSizes[which].width() : 0; }
+int uxPlatform::iconBaseHeight(IconSize which) { return known(which) ? state().iconSizes[which].height() : 0; }
 
 void uxPlatform::setIconBaseSize(IconSize which, int width, int height)
 {
-    state().iconSizes[which] = QSize(qMax(1, width), qMax(1, height));
+    if (known(which))
+        state().iconSizes[which] = QSize(qMax(1, width), qMax(1, height));
 }
 
 int uxPlatform::getMiniIconSizeX() { return scaled(iconBaseWidth(MiniIcon), getDpiScaleX()); }

@@ -30,6 +30,8 @@ private slots:
                                 << QList<QSize>{{32, 16}, {40, 20}, {48, 24}, {64, 32}, {32, 0}};
         QTest::newRow("negative x") << QPointF(-1, 0.5) << QPointF(1, 0.5)
                                     << QList<QSize>{{16, 8}, {20, 10}, {24, 12}, {32, 16}, {16, 0}};
+        QTest::newRow("infinite x, NaN y") << QPointF(qInf(), qQNaN()) << QPointF(1, 1)
+                                           << QList<QSize>{{16, 16}, {20, 20}, {24, 24}, {32, 32}, {16, 0}};
     }
 
     void shouldScaleIconSizesAndIgnoreNonPositiveScales()
