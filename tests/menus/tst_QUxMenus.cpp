@@ -88,7 +88,7 @@ private slots:
             if (shown)
                 menu.popup(QPoint(0, 0));
             QLineEdit* field = searchField(&menu);
-            const int fullHeight = menu.height();
+            const int fullHeight = menu.sizeHint().height();
             QTest::keyClicks(field, typed);
             QCOMPARE(visibleEntries(&menu), visible);
             QVERIFY(menu.actions().constFirst()->isVisible());
@@ -99,6 +99,7 @@ private slots:
             QSignalSpy edits(field, &QLineEdit::textChanged);
             menu.popup(QPoint(10, 10));
             QCOMPARE(visibleEntries(&menu).size(), 6);
+            QCOMPARE(menu.height(), fullHeight);
             QVERIFY(open->isEnabled() && field->text().isEmpty() && edits.isEmpty());
             QCOMPARE(menu.focusWidget(), field);
         }
