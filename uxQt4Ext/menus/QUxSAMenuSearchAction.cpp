@@ -19,8 +19,6 @@ QUxSAMenuSearchAction::QUxSAMenuSearchAction(QMenu* menu)
 
 QUxSAMenuSearchAction::~QUxSAMenuSearchAction() = default;
 
-QLineEdit* QUxSAMenuSearchAction::lineEdit() const { return m_lineEdit; }
-
 void QUxSAMenuSearchAction::textChanged(const QString& text)
 {
     if (!m_menu)

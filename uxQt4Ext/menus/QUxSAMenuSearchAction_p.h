@@ -15,8 +15,6 @@ public:
     explicit QUxSAMenuSearchAction(QMenu* menu);
     ~QUxSAMenuSearchAction() override;
 
-    QLineEdit* lineEdit() const;
-
 public slots:
     void textChanged(const QString& text);
     void textFinished();
