@@ -1,8 +1,11 @@
 #include <uxHostileInput.h>
 #include <uxTestSupport.h>
 
+#include <QUxAction.h>
+#include <QUxAnimatedMenu.h>
 #include <QUxCachedSelectionModel.h>
 #include <QUxCachedTreeView.h>
+#include <QUxClickableLabel.h>
 #include <QUxColor.h>
 #include <QUxColorArray.h>
 #include <QUxColorCell.h>
@@ -10,7 +13,11 @@
 #include <QUxColorField.h>
 #include <QUxCustomDelegate.h>
 #include <QUxDataWidgetMapper.h>
+#include <QUxDockWidget.h>
 #include <QUxDoubleSpiner.h>
+#include <QUxDragModuleLabel.h>
+#include <QUxElidedLabel.h>
+#include <QUxFileDropLineEdit.h>
 #include <QUxGraphEditor.h>
 #include <QUxIntVector2DSlider.h>
 #include <QUxIntVector2DSpiner.h>
@@ -20,13 +27,20 @@
 #include <QUxIntVector4DSpiner.h>
 #include <QUxIntegerSlider.h>
 #include <QUxLed.h>
+#include <QUxOpenMenu.h>
+#include <QUxPushButton.h>
+#include <QUxSAMenu.h>
 #include <QUxScrollBarPositionSaver.h>
+#include <QUxScrollableMessageBox.h>
 #include <QUxSlider.h>
 #include <QUxSliderSwitch.h>
 #include <QUxSortFilterProxyModel.h>
 #include <QUxSpiner.h>
 #include <QUxTimeLine.h>
 #include <QUxTimeLineRange.h>
+#include <QUxTitleBarGUIW.h>
+#include <QUxToolBar.h>
+#include <QUxToolButton.h>
 #include <QUxTreeWidget.h>
 #include <QUxVec2Control.h>
 #include <QUxVec2SliderControl.h>
@@ -48,7 +62,10 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QStandardItemModel>
+#include <QToolButton>
 #include <QTreeView>
+#include <QUrl>
+#include <QWidgetAction>
 
 #include <cmath>
 
@@ -885,6 +902,196 @@ void addItemViews(uxHostile::Sweep& sweep)
             [](QScrollBar&, QScrollBar* bar) { const QUxScrollBarPositionSaver keep(bar); });
 }
 
+/// A drop of @p urls delivered straight to @p target's handlers.
+void dropUrls(QWidget* target, const QList<QUrl>& urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+}
+
+/// The search field of a search menu, typed into.
+void typeSearch(QUxSAMenu& menu, const QString& text)
+{
+    auto* search = qobject_cast<QWidgetAction*>(menu.actions().value(0));
+    auto* field = search ? qobject_cast<QLineEdit*>(search->defaultWidget()) : nullptr;
+    QVERIFY(field);
+    field->setText(text);
+}
+
+/// Text that only passes through to Qt's own labels and menus: laying out a
+/// megabyte there costs Qt about a second and tells nothing about our code.
+QString qtText(const QString& s) { return s.left(1 << 16); }
+
+void addDockingAndLabels(uxHostile::Sweep& sweep)
+{
+    using D = QUxDockWidget;
+    sweep
+        .add<D>("QUxDockWidget", sized<D, 200, 120>,
+                [](D& d) {
+                    d.setDockingEnabled(false);
+                    QCOMPARE(int(d.allowedAreas()), 0);
+                    d.setDockingEnabled(true);
+                    QCOMPARE(D::fromPayload(D::payload(&d)), &d);
+                })
+        .op("setTitle", [](D& d, const QString& s) { d.setTitle(qtText(s)); })
+        .ops("setNickName", &D::setNickName, "setIntName", &D::setIntName, "setToolclipKey", &D::setToolclipKey)
+        .op("fromPayload", [](D&, const QString& s) { QCOMPARE(D::fromPayload(s.toLatin1()), nullptr); })
+        .op("setWidget", [](D& d, QWidget* w) { d.setWidget(w), d.setFloating(true), d.setFloating(false); })
+        .ctor("QUxDockWidget(title,name)", [](const QString& s) { return new D(qtText(s), s, QIcon(), nullptr); });
+
+    using TB = QUxTitleBarGUIW;
+    sweep
+        .add<TB>(
+            "QUxTitleBarGUIW", [] { return std::make_shared<TB>(nullptr, QString()); },
+            [](TB& t) { QCOMPARE(t.objectName(), QStringLiteral("QUxTitleBar")); })
+        .ctor("QUxTitleBarGUIW(nullptr,title)", [](const QString& s) { return new TB(nullptr, qtText(s)); });
+
+    using E = QUxElidedLabel;
+    sweep
+        .add<E>(
+            "QUxElidedLabel", [] { return std::make_shared<E>(QString(), nullptr); },
+            [](E& e) {
+                e.setText(QStringLiteral("abc"));
+                QCOMPARE(e.text(), QStringLiteral("abc"));
+            })
+        .op("setText, width 0",
+            [](E& e, const QString& s) {
+                e.setText(s);
+                e.resize(0, 20);
+                e.grab();
+                e.resize(40, 20);
+            })
+        .op("setElideMode", [](E& e, Enum m) { e.setElideMode(m.masked<Qt::TextElideMode>(3)); })
+        .op("resize", [](E& e, QSize size) {
+            e.setText(QStringLiteral("long text"));
+            e.resize(size);
+            e.grab();
+            e.resize(40, 20);
+        });
+
+    using C = QUxClickableLabel;
+    sweep.add<C>("QUxClickableLabel", sized<C>, [](C& c) {
+        QSignalSpy clicked(&c, &C::clicked);
+        QTest::mousePress(&c, Qt::RightButton);
+        QCOMPARE(clicked.count(), 1);
+    });
+
+    using M = QUxDragModuleLabel;
+    sweep.add<M>("QUxDragModuleLabel", sized<M>, [](M& m) { QVERIFY(m.pixmap(Qt::ReturnByValue).isNull()); })
+        .op("setModule", [](M& m, QUxDockWidget* d) { m.setModule(d); });
+
+    using F = QUxFileDropLineEdit;
+    sweep
+        .add<F>("QUxFileDropLineEdit", sized<F>,
+                [](F& f) {
+                    QSignalSpy dropped(&f, &F::fileDropped);
+                    dropUrls(&f, {QUrl::fromLocalFile("/tmp/a.scene"), QUrl::fromLocalFile("/tmp/b.scene")});
+                    QCOMPARE(dropped.count(), 1);
+                    QCOMPARE(dropped.at(0).at(0).toString(), QStringLiteral("/tmp/a.scene"));
+                })
+        .op("drop url",
+            [](F& f, const QString& s) {
+                dropUrls(&f, {QUrl(s), QUrl::fromLocalFile(s)});
+            })
+        .op("drop urls",
+            [](F& f, int n) { dropUrls(&f, QVector<QUrl>(qBound(0, n, 500), QUrl("https://x.org")).toList()); });
+
+    using B = QUxScrollableMessageBox;
+    sweep
+        .add<B>("QUxScrollableMessageBox",
+                [](B& b) {
+                    b.setText(QStringLiteral("done"));
+                    QVERIFY(b.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")));
+                })
+        .op("setText, makeScrollable", [](B& b, const QString& s) { b.setText(s.left(65536)), b.makeScrollable(); });
+}
+
+void addMenusAndToolBars(uxHostile::Sweep& sweep)
+{
+    using S = QUxSAMenu;
+    sweep
+        .add<S>(
+            "QUxSAMenu", [] { return std::make_shared<S>(nullptr); },
+            [](S& s) {
+                s.addAction(QStringLiteral("Lights"));
+                typeSearch(s, QStringLiteral("IGH"));
+                QVERIFY(s.actions().last()->isVisible());
+            })
+        .op("type into empty menu", [](S& s, const QString& t) { typeSearch(s, t); })
+        .op("type", [](S& s, const QString& t) {
+            for (const char* text : {"a(b", "*", "\\", "Lights"})
+                s.addAction(QString::fromLatin1(text));
+            s.addSeparator();
+            typeSearch(s, t);
+            s.setVisible(true);
+            s.setVisible(false);
+        });
+
+    using A = QUxAnimatedMenu;
+    sweep
+        .add<A>(
+            "QUxAnimatedMenu", [] { return std::make_shared<A>(nullptr); },
+            [](A& a) {
+                a.makeTransparent();
+                a.fadeIn();
+                QCOMPARE(a.windowOpacity(), 0.0);
+            })
+        .op("addAction", [](A& a, const QString& s) { a.addAction(qtText(s)); });
+
+    using O = QUxOpenMenu;
+    sweep
+        .add<O>(
+            "QUxOpenMenu", [] { return std::make_shared<O>(QString(), nullptr); },
+            [](O& o) {
+                o.setVisible(true);
+                o.setVisible(false);
+                QVERIFY(o.isVisible());
+                o.setVisibleNow(false);
+                QVERIFY(!o.isVisible());
+            })
+        .op("setTitle", [](O& o, const QString& s) { o.setTitle(s); });
+
+    using T = QUxToolBar;
+    sweep
+        .add<T>(
+            "QUxToolBar", [] { return std::make_shared<T>(nullptr); },
+            [](T& t) {
+                auto* action = new QAction(QStringLiteral("x"), &t);
+                t.addAction(action);
+                QCOMPARE(qobject_cast<QToolButton*>(t.widgetForAction(action))->autoRaise(), false);
+            })
+        .op("addAction", [](T& t, const QString& s) { t.addAction(new QUxAction(qtText(s), &t)); })
+        .op("addWidget", [](T& t, QWidget* w) { t.addWidget(w); })
+        .op("insertAction", [](T& t, QAction* a) { t.insertAction(a, new QAction(&t)); })
+        .op("clear while the text switch changes", [](T& t, const QString& s) {
+            t.addAction(new QUxAction(s, &t));
+            t.setObjectName(s);
+            T::showButtonText(true);
+            t.clear();
+            QUxAction::showIconText(true);
+            T::showButtonText(false);
+            QUxAction::showIconText(false);
+        });
+
+    using B = QUxToolButton;
+    sweep.add<B>("QUxToolButton", sized<B, 40, 40>, [](B& b) { QCOMPARE(b.toolButtonStyle(), Qt::ToolButtonIconOnly); })
+        .op("setText with menu", [](B& b, const QString& s) {
+            b.setMenu(new QMenu(&b));
+            b.setText(qtText(s));
+        });
+
+    using P = QUxPushButton;
+    sweep.add<P>("QUxPushButton", sized<P>, [](P& p) {
+        QSignalSpy clicked(&p, &QPushButton::clicked);
+        QTest::mouseClick(&p, Qt::RightButton);
+        QCOMPARE(clicked.count(), 1);
+    });
+}
+
 const uxHostile::Sweep& theSweep()
 {
     static const uxHostile::Sweep sweep = [] {
@@ -897,6 +1104,8 @@ const uxHostile::Sweep& theSweep()
         addColorControls(s);
         addCurvesAndTime(s);
         addItemViews(s);
+        addDockingAndLabels(s);
+        addMenusAndToolBars(s);
         return s;
     }();
     return sweep;

@@ -6,6 +6,7 @@
 #include <uxTestSupport.h>
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QMimeData>
 #include <QScrollArea>
 #include <QtTest>
@@ -69,6 +70,16 @@ private slots:
         QCOMPARE(label.text(), text);
         if (width == 1)
             QCOMPARE(shown.left(1) + shown.right(1), text.left(1) + QChar(0x2026));
+    }
+
+    void shouldLetALayoutShrinkItBeforeItEverPainted()
+    {
+        QWidget box;
+        auto* label = new QUxElidedLabel(QString(200, 'w'), &box); // well over 1000 pixels whole
+        (new QHBoxLayout(&box))->addWidget(label);
+        QVERIFY(box.minimumSizeHint().width() < 100);
+        label->setElideMode(Qt::ElideNone);
+        QVERIFY(box.minimumSizeHint().width() > 1000);
     }
 
     void shouldNotRepaintForeverWhileElided()

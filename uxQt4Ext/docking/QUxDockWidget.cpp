@@ -158,6 +158,8 @@ void QUxDockWidget::init(const QString& title, const QString& name)
         button.first->setIcon(QUxDockWidgetPrivate::buttonIcon(QLatin1String(button.second), size));
         button.first->setMinimumSize(size);
         button.first->setMaximumSize(size);
+        // The images are drawn a little inside the button's frame, so they grow with the display scale too.
+        button.first->setIconSize(size * 4 / 5);
     }
     bar->iconLabel()->setPixmap(d->moduleImage(size));
     bar->iconLabel()->setModule(this);

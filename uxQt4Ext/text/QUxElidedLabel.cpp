@@ -41,6 +41,12 @@ QString visiblePiece(const QString& text, Qt::TextElideMode mode, int width)
     }
 }
 
+// The first character of @p text (both halves of a surrogate pair) followed by "...".
+QString firstAndEllipsis(const QString& text)
+{
+    return text.left(text.at(0).isHighSurrogate() ? 2 : 1) + QStringLiteral("...");
+}
+
 } // namespace
 
 class QUxElidedLabelPrivate
@@ -64,6 +70,7 @@ void QUxElidedLabel::setElideMode(Qt::TextElideMode mode)
     d->mode = mode;
     if (!d->source.isNull())
         d->source = QString();
+    updateGeometry(); // the minimum size hint depends on the mode
     update();
 }
 
@@ -74,15 +81,23 @@ void QUxElidedLabel::updateCachedTexts()
         return;
     const QFontMetrics metrics(font());
     // First, since a larger minimum widens the label and the text is elided to the new width.
-    if (!full.isEmpty()) {
-        const QString first = full.left(full.at(0).isHighSurrogate() ? 2 : 1);
-        setMinimumWidth(metrics.horizontalAdvance(first + QStringLiteral("...")) + 1);
-    }
+    if (!full.isEmpty())
+        setMinimumWidth(metrics.horizontalAdvance(firstAndEllipsis(full)) + 1);
     // Without a mode the text is shown whole; shaping it would only cost time.
     d->elided = d->mode == Qt::ElideNone
                     ? full
                     : metrics.elidedText(visiblePiece(full, d->mode, width()), d->mode, width(), Qt::TextShowMnemonic);
     d->source = full.isNull() ? QStringLiteral("") : full;
+}
+
+QSize QUxElidedLabel::minimumSizeHint() const
+{
+    const QSize label = QLabel::minimumSizeHint();
+    const QString full = text();
+    if (d->mode == Qt::ElideNone || full.isEmpty())
+        return label;
+    const int margins = contentsMargins().left() + contentsMargins().right() + 2 * margin();
+    return QSize(fontMetrics().horizontalAdvance(firstAndEllipsis(full)) + 1 + margins, label.height());
 }
 
 void QUxElidedLabel::paintEvent(QPaintEvent* event)

@@ -33,6 +33,9 @@ public:
     /// Recomputes the shortened text when the text changed since the last call or the cache was invalidated.
     void updateCachedTexts();
 
+    /// An eliding label asks a layout for room for one character and "..." only, before it ever painted.
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
