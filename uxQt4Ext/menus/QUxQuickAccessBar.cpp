@@ -28,9 +28,11 @@ QFrame* spacerFrame()
     return frame;
 }
 
-// An address is only believed when the drag runs in this process: a drop
-// from elsewhere (no source) that names an object reads as naming nothing.
-bool fromThisProcess(const QDropEvent* event) { return event->source() != nullptr; }
+// An address is only believed when the drop comes from this process: a drag
+// started here has a source, and an event sent by code of this process is not
+// spontaneous. A drop from another process has neither, so the object its
+// bytes name (if any) is not the one they meant: it reads as naming nothing.
+bool fromThisProcess(const QDropEvent* event) { return event->source() != nullptr || !event->spontaneous(); }
 
 } // namespace
 
@@ -61,7 +63,13 @@ QUxQuickAccessBar::QUxQuickAccessBar(const QString& title, QWidget* parent)
     init();
 }
 
-QUxQuickAccessBar::~QUxQuickAccessBar() = default;
+QUxQuickAccessBar::~QUxQuickAccessBar()
+{
+    // The buttons die after this object's private part; their goodbyes must not reach it.
+    const QList<QUxQuickAccessButton*> children = findChildren<QUxQuickAccessButton*>();
+    for (QUxQuickAccessButton* button : children)
+        button->disconnect(this);
+}
 
 void QUxQuickAccessBar::init()
 {
@@ -101,8 +109,7 @@ void QUxQuickAccessBar::addModule(QUxDockWidget* widget, QAction* before, const 
         const auto found = d->buttons.find(button);
         if (found == d->buttons.end())
             return;
-        removeAction(found->second.action);
-        found->second.action->deleteLater();
+        takeOff(button, found->second.action);
         d->buttons.erase(found);
     });
     QAction* action = nullptr;
@@ -152,10 +159,8 @@ void QUxQuickAccessBar::clear()
     const auto buttons = std::move(d->buttons);
     d->buttons.clear();
     d->modules.clear();
-    // Removed buttons go for good; a button being dragged lives until its drag returns.
     for (const auto& entry : buttons) {
-        removeAction(entry.second.action);
-        entry.second.action->deleteLater();
+        takeOff(entry.first, entry.second.action);
     }
 }
 
@@ -170,6 +175,14 @@ std::vector<QString> QUxQuickAccessBar::moduleNames() const
     return names;
 }
 
+void QUxQuickAccessBar::takeOff(QUxQuickAccessButton* button, QAction* action)
+{
+    // Gone for good, but later: the button may be inside its own mouse handler or drag.
+    button->disconnect(this);
+    removeAction(action);
+    action->deleteLater();
+}
+
 void QUxQuickAccessBar::removeModule(QUxQuickAccessButton* button)
 {
     if (!button)
@@ -181,8 +194,7 @@ void QUxQuickAccessBar::removeModule(QUxQuickAccessButton* button)
         QAction* action = found->second.action;
         d->modules.erase(found->second.dock);
         d->buttons.erase(found);
-        removeAction(action);
-        action->deleteLater();
+        takeOff(button, action);
     }
     emit moduleRemoved();
 }

@@ -70,6 +70,7 @@ private:
     void calculateHighlightPosition(int x);
     QAction* calculateNextAction() const;
     void updateButtonStates();
+    void takeOff(QUxQuickAccessButton* button, QAction* action);
 
     std::unique_ptr<QUxQuickAccessBarPrivate> const d;
 };
