@@ -5,8 +5,8 @@
 #include <QFrame>
 #include <QMimeData>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QtTest>
+#include <uxTestSupport.h>
 
 #include <memory>
 
@@ -15,7 +15,7 @@ namespace {
 const QString kModule = QStringLiteral("application/corva-module-icon");
 const QString kButton = QStringLiteral("application/corva-quickAccess-button");
 
-QUxDockWidget* dock(const QString& name, QWidget* parent = nullptr)
+QUxDockWidget* dock(const QString& name, QWidget* parent)
 {
     auto* widget = new QUxDockWidget(name, name, QIcon(), parent);
     widget->setIntName(name);
@@ -25,26 +25,21 @@ QUxDockWidget* dock(const QString& name, QWidget* parent = nullptr)
 
 QStringList names(const QUxQuickAccessBar& bar)
 {
-    QStringList list;
-    for (const QString& name : bar.moduleNames())
-        list << name;
-    return list;
+    const std::vector<QString> list = bar.moduleNames();
+    return QStringList(list.begin(), list.end());
 }
 
 QUxQuickAccessButton* buttonOf(QUxQuickAccessBar& bar, const QString& name)
 {
-    for (QAction* action : bar.actions()) {
-        if (action->text() == name)
-            return qobject_cast<QUxQuickAccessButton*>(bar.widgetForAction(action));
-    }
-    return nullptr;
+    const QList<QAction*> actions = bar.actions();
+    auto found = std::find_if(actions.begin(), actions.end(), [&](QAction* a) { return a->text() == name; });
+    return found == actions.end() ? nullptr : qobject_cast<QUxQuickAccessButton*>(bar.widgetForAction(*found));
 }
 
 QWidget* done(QUxQuickAccessBar& bar) { return bar.findChild<QPushButton*>("QuickAccessDoneButton"); }
-
 bool doneShown(QUxQuickAccessBar& bar) { return bar.actions().last()->isVisible(); }
 
-/// Enter, move and drop at @p x, as the window system delivers them.
+/// Enter, move and drop at @p x, sent by code of this process (as a drag started here).
 void dropOn(QUxQuickAccessBar& bar, const QString& format, const QByteArray& data, int x)
 {
     QMimeData mime;
@@ -53,8 +48,9 @@ void dropOn(QUxQuickAccessBar& bar, const QString& format, const QByteArray& dat
     QDragEnterEvent enter(pos, Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QDragMoveEvent move(pos, Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QDropEvent drop(pos, Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&move), static_cast<QEvent*>(&drop)})
-        QApplication::sendEvent(&bar, event);
+    QApplication::sendEvent(&bar, &enter);
+    QApplication::sendEvent(&bar, &move);
+    QApplication::sendEvent(&bar, &drop);
 }
 
 } // namespace
@@ -65,8 +61,14 @@ class tst_QUxQuickAccessBar : public QObject
 
     std::unique_ptr<QWidget> window;
     QUxQuickAccessBar* bar = nullptr;
-    QList<QUxDockWidget*> docks;
     QStringList signalLog;
+
+    void longPress(QUxQuickAccessButton* button, const QPoint& pos)
+    {
+        QUxQuickAccessButton::setLongPressInterval(0);
+        QTest::mousePress(button, Qt::LeftButton, {}, pos);
+        QTRY_VERIFY(QUxQuickAccessButton::editMode());
+    }
 
 private slots:
     void init()
@@ -76,14 +78,13 @@ private slots:
         window = std::make_unique<QWidget>();
         bar = new QUxQuickAccessBar(tr("Quick"), window.get());
         bar->setGeometry(0, 0, 600, 48);
-        docks = {dock("A", window.get()), dock("B", window.get()), dock("C", window.get())};
-        for (QUxDockWidget* module : docks)
-            bar->addModule(module, nullptr, QIcon(), QString(), QString(), false);
+        for (const char* name : {"A", "B", "C"})
+            bar->addModule(dock(name, window.get()), nullptr, QIcon(), QString(), QString(), false);
         signalLog.clear();
-        connect(bar, &QUxQuickAccessBar::moduleAdded, this, [this] { signalLog << "added"; });
-        connect(bar, &QUxQuickAccessBar::moduleRemoved, this, [this] { signalLog << "removed"; });
-        connect(bar, &QUxQuickAccessBar::moduleDropped, this, [this] { signalLog << "dropped"; });
-        connect(bar, &QUxQuickAccessBar::orderChanged, this, [this] { signalLog << "order"; });
+        connect(bar, &QUxQuickAccessBar::moduleAdded, this, [this] { signalLog << "moduleAdded"; });
+        connect(bar, &QUxQuickAccessBar::moduleRemoved, this, [this] { signalLog << "moduleRemoved"; });
+        connect(bar, &QUxQuickAccessBar::moduleDropped, this, [this] { signalLog << "moduleDropped"; });
+        connect(bar, &QUxQuickAccessBar::orderChanged, this, [this] { signalLog << "orderChanged"; });
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
     }
@@ -91,11 +92,10 @@ private slots:
 
     void shouldKeepButtonsBetweenSpacersAndBeforeDone()
     {
-        QAction plain(tr("Plain"));
+        QAction plain(tr("Plain")), special;
         bar->addButton(&plain, QIcon());
-        QAction special;
         bar->addSpecial(&special);
-        bar->addModule(docks[0], nullptr, QIcon(), "Again", QString(), false);
+        bar->addModule(buttonOf(*bar, "A")->dockWidget(), nullptr, QIcon(), "Again", QString(), false);
         bar->addModule(nullptr, nullptr, QIcon(), QString(), QString(), false);
         QCOMPARE(names(*bar), QStringList({"A", "B", "C", "Title"}));
         QVERIFY(signalLog.isEmpty());
@@ -114,13 +114,10 @@ private slots:
     void shouldShareEditModeButShowDoneOnlyOnPressedBar()
     {
         QUxQuickAccessBar other(window.get());
-        other.addModule(dock("D", window.get()), nullptr, QIcon(), QString(), QString(), false);
         QUxQuickAccessButton* a = buttonOf(*bar, "A");
-        QTest::mouseClick(a, Qt::LeftButton); // short press: toggles
-        QVERIFY(!a->isChecked() && !docks[0]->isVisible() && !QUxQuickAccessButton::editMode());
-        QUxQuickAccessButton::setLongPressInterval(0);
-        QTest::mousePress(a, Qt::LeftButton);
-        QTRY_VERIFY(QUxQuickAccessButton::editMode());
+        QTest::mouseClick(a, Qt::LeftButton); // short press: toggles the visible dock off
+        QVERIFY(!a->isChecked() && !a->dockWidget()->isVisible() && !QUxQuickAccessButton::editMode());
+        longPress(a, QPoint(2, 2));
         QTest::mouseRelease(a, Qt::LeftButton);
         QVERIFY(doneShown(*bar) && !doneShown(other));
         QTest::mouseClick(a, Qt::LeftButton, {}, QPoint(2, 2)); // no toggle in edit mode
@@ -150,55 +147,46 @@ private slots:
         const QPoint point(b->width() - fromRight, y);
         QTest::mouseClick(b, Qt::LeftButton, {}, point); // out of edit mode the badge is button
         QVERIFY(!b->isChecked());
-        emit b->startedEditing(); // as after a long press
-        QUxQuickAccessButton::setLongPressInterval(0);
-        QTest::mousePress(b, Qt::LeftButton);
-        QTRY_VERIFY(QUxQuickAccessButton::editMode());
+        longPress(b, QPoint(b->width() / 3, 30));
         QTest::mouseRelease(b, Qt::LeftButton, {}, QPoint(b->width() / 3, 30));
         QTest::mouseClick(b, Qt::LeftButton, {}, point);
         QCOMPARE(names(*bar), removed ? QStringList({"A", "C"}) : QStringList({"A", "B", "C"}));
-        QCOMPARE(signalLog, removed ? QStringList({"removed"}) : QStringList());
+        QCOMPARE(signalLog, removed ? QStringList({"moduleRemoved"}) : QStringList());
     }
 
     void shouldReorderByDrop_data()
     {
-        QTest::addColumn<QString>("moved");
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<int>("offset"); // from the target's left edge; 1000: far right of the bar
+        QTest::addColumn<char>("moved");
+        QTest::addColumn<char>("target");
+        QTest::addColumn<int>("offset"); // from the target's left edge, negative from its right; 1000: bar's end
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("left half") << "C"
-                                   << "A" << 1 << QStringList({"C", "A", "B"});
-        QTest::newRow("right half") << "C"
-                                    << "A" << -2 << QStringList({"A", "C", "B"});
-        QTest::newRow("past the end") << "A"
-                                      << "C" << 1000 << QStringList({"B", "C", "A"});
-        QTest::newRow("own left half") << "B"
-                                       << "B" << 0 << QStringList({"A", "B", "C"});
+        QTest::newRow("left half") << 'C' << 'A' << 1 << QStringList({"C", "A", "B"});
+        QTest::newRow("right half") << 'C' << 'A' << -2 << QStringList({"A", "C", "B"});
+        QTest::newRow("past the end") << 'A' << 'C' << 1000 << QStringList({"B", "C", "A"});
+        QTest::newRow("own left half") << 'B' << 'B' << 0 << QStringList({"A", "B", "C"});
     }
     void shouldReorderByDrop()
     {
-        QFETCH(QString, moved);
-        QFETCH(QString, target);
+        QFETCH(char, moved);
+        QFETCH(char, target);
         QFETCH(int, offset);
         QFETCH(QStringList, order);
-        QUxQuickAccessButton* t = buttonOf(*bar, target);
+        QUxQuickAccessButton* t = buttonOf(*bar, QString(target));
         const int x = offset == 1000 ? bar->width() - 5 : t->x() + (offset < 0 ? t->width() + offset : offset);
-        const QByteArray data = QUxQuickAccessButton::payload(buttonOf(*bar, moved));
-        dropOn(*bar, kButton, data, x);
-        QCOMPARE(signalLog, QStringList({"removed", "added", "order"}));
+        dropOn(*bar, kButton, QUxQuickAccessButton::payload(buttonOf(*bar, QString(moved))), x);
+        QCOMPARE(signalLog, QStringList({"moduleRemoved", "moduleAdded", "orderChanged"}));
         QCOMPARE(names(*bar), order);
-        QCOMPARE(buttonOf(*bar, moved)->dockWidget()->getIntName(), moved);
+        QCOMPARE(buttonOf(*bar, QString(moved))->text(), QString(moved).toLower()); // rebuilt from its dock
     }
 
     void shouldAppendDroppedModuleWhereverDropped()
     {
-        QUxDockWidget* d = dock("D", window.get());
-        dropOn(*bar, kModule, QUxDockWidget::payload(d), 1);
+        dropOn(*bar, kModule, QUxDockWidget::payload(dock("D", window.get())), 1);
         QCOMPARE(names(*bar), QStringList({"A", "B", "C", "D"}));
-        QCOMPARE(signalLog, QStringList({"added", "dropped"}));
+        QCOMPARE(signalLog, QStringList({"moduleAdded", "moduleDropped"}));
     }
 
-    void shouldIgnoreForgedStaleAndForeignPayloads_data()
+    void shouldIgnoreForgedAndStalePayloads_data()
     {
         QTest::addColumn<QString>("format");
         QTest::addColumn<QByteArray>("data");
@@ -206,14 +194,13 @@ private slots:
         auto* stale = new QUxQuickAccessButton;
         const QByteArray staleButton = QUxQuickAccessButton::payload(stale);
         delete stale;
-        QTest::newRow("forged dock") << kModule << QByteArray("0x1234") << QStringList("dropped");
-        QTest::newRow("garbage dock") << kModule << QByteArray("\xff\0zz", 4) << QStringList("dropped");
+        QTest::newRow("forged dock") << kModule << QByteArray("0x1234") << QStringList("moduleDropped");
+        QTest::newRow("garbage dock") << kModule << QByteArray("\xff\0zz", 4) << QStringList("moduleDropped");
         QTest::newRow("empty dock") << kModule << QByteArray() << QStringList();
         QTest::newRow("stale button") << kButton << staleButton << QStringList();
-        QTest::newRow("too long") << kButton << QByteArray("0x").append(40, 'f') << QStringList();
         QTest::newRow("other format") << "text/plain" << QByteArray("0x1") << QStringList();
     }
-    void shouldIgnoreForgedStaleAndForeignPayloads()
+    void shouldIgnoreForgedAndStalePayloads()
     {
         QFETCH(QString, format);
         QFETCH(QByteArray, data);
@@ -223,29 +210,27 @@ private slots:
         QCOMPARE(signalLog, log);
     }
 
-    void shouldNotKeepDeletedDockOrRemovedButton()
+    void shouldForgetDeletedDockAndRemovedButton()
     {
         QUxQuickAccessButton* a = buttonOf(*bar, "A");
-        const QByteArray stale = QUxDockWidget::payload(docks[1]);
-        delete docks[1];
+        QUxDockWidget* b = buttonOf(*bar, "B")->dockWidget();
+        const QByteArray stale = QUxDockWidget::payload(b);
+        delete b;
         QCOMPARE(names(*bar), QStringList({"A", "C"}));
         dropOn(*bar, kModule, stale, 5);
         emit a->removeButton(a);
         QMetaObject::invokeMethod(bar, "removeModule", Q_ARG(QUxQuickAccessButton*, a)); // twice: reported, harmless
         QMetaObject::invokeMethod(bar, "removeModule", Q_ARG(QUxQuickAccessButton*, nullptr));
         QCOMPARE(names(*bar), QStringList({"C"}));
-        QCOMPARE(signalLog, QStringList({"dropped", "removed", "removed"}));
+        QCOMPARE(signalLog, QStringList({"moduleDropped", "moduleRemoved", "moduleRemoved"}));
     }
 
     void shouldNotCrashWhenButtonIsDeletedAfterItsDragStarted()
     {
         QUxQuickAccessButton* a = buttonOf(*bar, "A");
         const QByteArray data = QUxQuickAccessButton::payload(a);
-        QUxQuickAccessButton::setLongPressInterval(0);
-        QTest::mousePress(a, Qt::LeftButton, {}, QPoint(2, 2));
-        QTRY_VERIFY(QUxQuickAccessButton::editMode());
-        emit a->startedEditing();
-        QTest::mouseMove(a, QPoint(40, 40)); // starts the drag
+        longPress(a, QPoint(2, 2));
+        uxTest::moveMouse(a, QPoint(40, 40)); // starts the drag
         QTest::mouseClick(done(*bar), Qt::LeftButton);
         bar->clear();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
