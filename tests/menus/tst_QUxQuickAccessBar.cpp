@@ -210,7 +210,7 @@ private slots:
         QCOMPARE(signalLog, log);
     }
 
-    void shouldForgetDeletedDockAndRemovedButton()
+    void shouldForgetDeletedDocksAndButtons()
     {
         QUxQuickAccessButton* a = buttonOf(*bar, "A");
         QUxDockWidget* b = buttonOf(*bar, "B")->dockWidget();
@@ -222,6 +222,8 @@ private slots:
         QMetaObject::invokeMethod(bar, "removeModule", Q_ARG(QUxQuickAccessButton*, a)); // twice: reported, harmless
         QMetaObject::invokeMethod(bar, "removeModule", Q_ARG(QUxQuickAccessButton*, nullptr));
         QCOMPARE(names(*bar), QStringList({"C"}));
+        delete buttonOf(*bar, "C");
+        QCOMPARE(names(*bar), QStringList());
         QCOMPARE(signalLog, QStringList({"moduleDropped", "moduleRemoved", "moduleRemoved"}));
     }
 

@@ -45,20 +45,73 @@ public:
         const QObject* dock = nullptr; // compared only, never dereferenced
     };
 
+    explicit QUxQuickAccessBarPrivate(QUxQuickAccessBar* bar) : q(bar) {}
+
+    bool onBar(QUxQuickAccessButton* button) const { return button && buttons.count(button) != 0; }
+    QAction* place(QUxQuickAccessButton* button, QAction* before);
+    void track(QUxQuickAccessButton* button, QAction* action, QUxDockWidget* dock);
+    void forget(QUxQuickAccessButton* button);
+
+    QUxQuickAccessBar* const q;
     QAction* trailingSpacer = nullptr;
     QAction* doneAction = nullptr;
     bool highlight = false;
     int highlightPosition = 0;
     std::map<QUxQuickAccessButton*, Entry> buttons;
     std::set<const QObject*> modules;
-
-    bool onBar(QUxQuickAccessButton* button) const { return button && buttons.count(button) != 0; }
 };
 
-QUxQuickAccessBar::QUxQuickAccessBar(QWidget* parent) : QUxToolBar(parent), d(new QUxQuickAccessBarPrivate) { init(); }
+QAction* QUxQuickAccessBarPrivate::place(QUxQuickAccessButton* button, QAction* before)
+{
+    if (!before)
+        before = trailingSpacer;
+    return before ? q->insertWidget(before, button) : q->addWidget(button);
+}
+
+void QUxQuickAccessBarPrivate::track(QUxQuickAccessButton* button, QAction* action, QUxDockWidget* dock)
+{
+    buttons[button] = {action, dock};
+    if (dock) {
+        modules.insert(dock);
+        // A dock that goes away takes its button along, silently: hosts save the
+        // bar on its signals, and docks die first when the main window closes.
+        QObject::connect(dock, &QObject::destroyed, button, [this, button](QObject* gone) {
+            modules.erase(gone);
+            button->setDockWidget(nullptr);
+            forget(button);
+        });
+    }
+    // By the time destroyed() arrives the widget is half gone: only the bookkeeping may be dropped.
+    QObject::connect(button, &QObject::destroyed, q, [this, button] {
+        const auto found = buttons.find(button);
+        if (found != buttons.end()) {
+            modules.erase(found->second.dock);
+            buttons.erase(found);
+        }
+    });
+}
+
+void QUxQuickAccessBarPrivate::forget(QUxQuickAccessButton* button)
+{
+    const auto found = buttons.find(button);
+    if (found == buttons.end())
+        return;
+    QAction* action = found->second.action;
+    modules.erase(found->second.dock);
+    buttons.erase(found);
+    // Gone for good, but later: the button may be inside its own mouse handler or drag.
+    button->disconnect(q);
+    q->removeAction(action);
+    action->deleteLater();
+}
+
+QUxQuickAccessBar::QUxQuickAccessBar(QWidget* parent) : QUxToolBar(parent), d(new QUxQuickAccessBarPrivate(this))
+{
+    init();
+}
 
 QUxQuickAccessBar::QUxQuickAccessBar(const QString& title, QWidget* parent)
-    : QUxToolBar(title, parent), d(new QUxQuickAccessBarPrivate)
+    : QUxToolBar(title, parent), d(new QUxQuickAccessBarPrivate(this))
 {
     init();
 }
@@ -101,32 +154,9 @@ void QUxQuickAccessBar::addModule(QUxDockWidget* widget, QAction* before, const 
     connect(button, &QUxQuickAccessButton::startedEditing, this, &QUxQuickAccessBar::editingMode);
     connect(button, &QUxQuickAccessButton::removeButton, this, &QUxQuickAccessBar::removeModule);
     connect(widget, &QDockWidget::visibilityChanged, button, &QUxQuickAccessButton::changedWidgetVisibility);
-    // A dock that goes away takes its button along, silently: hosts save the
-    // bar on its signals, and docks die first when the main window closes.
-    connect(widget, &QObject::destroyed, button, [this, button](QObject* dock) {
-        d->modules.erase(dock);
-        button->setDockWidget(nullptr);
-        const auto found = d->buttons.find(button);
-        if (found == d->buttons.end())
-            return;
-        takeOff(button, found->second.action);
-        d->buttons.erase(found);
-    });
-    QAction* action = nullptr;
-    if (before)
-        action = insertWidget(before, button);
-    else
-        action = d->trailingSpacer ? insertWidget(d->trailingSpacer, button) : addWidget(button);
+    QAction* action = d->place(button, before);
     action->setText(widget->getIntName());
-    d->buttons[button] = {action, widget};
-    d->modules.insert(widget);
-    connect(button, &QObject::destroyed, this, [this, button]() {
-        const auto found = d->buttons.find(button);
-        if (found == d->buttons.end())
-            return;
-        d->modules.erase(found->second.dock);
-        d->buttons.erase(found);
-    });
+    d->track(button, action, widget);
     emit moduleAdded();
     updateButtonStates();
 }
@@ -134,13 +164,12 @@ void QUxQuickAccessBar::addModule(QUxDockWidget* widget, QAction* before, const 
 void QUxQuickAccessBar::addButton(QAction* action, const QIcon& icon)
 {
     auto* button = new QUxQuickAccessButton(this);
-    QAction* barAction = d->trailingSpacer ? insertWidget(d->trailingSpacer, button) : addWidget(button);
+    QAction* barAction = d->place(button, nullptr);
     barAction->setText(tr("Title"));
     button->setDefaultAction(action);
     if (!icon.isNull())
         button->setIcon(icon);
-    d->buttons[button] = {barAction, nullptr};
-    connect(button, &QObject::destroyed, this, [this, button]() { d->buttons.erase(button); });
+    d->track(button, barAction, nullptr);
     updateButtonStates();
 }
 
@@ -156,12 +185,9 @@ void QUxQuickAccessBar::addSpecial(QAction* action)
 
 void QUxQuickAccessBar::clear()
 {
-    const auto buttons = std::move(d->buttons);
-    d->buttons.clear();
+    while (!d->buttons.empty())
+        d->forget(d->buttons.begin()->first);
     d->modules.clear();
-    for (const auto& entry : buttons) {
-        takeOff(entry.first, entry.second.action);
-    }
 }
 
 std::vector<QString> QUxQuickAccessBar::moduleNames() const
@@ -175,29 +201,17 @@ std::vector<QString> QUxQuickAccessBar::moduleNames() const
     return names;
 }
 
-void QUxQuickAccessBar::takeOff(QUxQuickAccessButton* button, QAction* action)
-{
-    // Gone for good, but later: the button may be inside its own mouse handler or drag.
-    button->disconnect(this);
-    removeAction(action);
-    action->deleteLater();
-}
-
 void QUxQuickAccessBar::removeModule(QUxQuickAccessButton* button)
 {
     if (!button)
         return;
     if (QUxDockWidget* dock = button->dockWidget())
         d->modules.erase(dock);
-    const auto found = d->buttons.find(button);
-    if (found != d->buttons.end() && found->second.action) {
-        QAction* action = found->second.action;
-        d->modules.erase(found->second.dock);
-        d->buttons.erase(found);
-        takeOff(button, action);
-    }
+    d->forget(button);
     emit moduleRemoved();
 }
+
+void QUxQuickAccessBar::buttonDestroyed(QUxQuickAccessButton* button) { d->forget(button); }
 
 void QUxQuickAccessBar::finishEditing()
 {

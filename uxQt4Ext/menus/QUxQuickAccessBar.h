@@ -70,7 +70,10 @@ private:
     void calculateHighlightPosition(int x);
     QAction* calculateNextAction() const;
     void updateButtonStates();
-    void takeOff(QUxQuickAccessButton* button, QAction* action);
+    /// A button of this bar is being destroyed while still a whole widget.
+    void buttonDestroyed(QUxQuickAccessButton* button);
+
+    friend class QUxQuickAccessButton;
 
     std::unique_ptr<QUxQuickAccessBarPrivate> const d;
 };

@@ -3,6 +3,7 @@
 #include "../docking/uxLiveObjects_p.h"
 
 #include <QUxDockWidget.h>
+#include <QUxQuickAccessBar.h>
 
 #include <QApplication>
 #include <QDrag>
@@ -59,6 +60,10 @@ QUxQuickAccessButton::QUxQuickAccessButton(QWidget* parent) : QUxToolButton(pare
 
 QUxQuickAccessButton::~QUxQuickAccessButton()
 {
+    // Deleted by hand while on a bar: the bar takes its action back while this is still a whole widget.
+    // (A bar being destroyed is no longer a QUxQuickAccessBar here and needs nothing.)
+    if (auto* bar = qobject_cast<QUxQuickAccessBar*>(parent()))
+        bar->buttonDestroyed(this);
     delete d->animation;
     delete d->longPressTimer;
     liveButtons().erase(this);
