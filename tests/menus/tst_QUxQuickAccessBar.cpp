@@ -179,6 +179,25 @@ private slots:
         QCOMPARE(buttonOf(*bar, QString(moved))->text(), QString(moved).toLower()); // rebuilt from its dock
     }
 
+    void shouldPaintOrangeBandAtDropPlaceUntilTheDrop()
+    {
+        QUxQuickAccessButton* b = buttonOf(*bar, "B");
+        const QPoint place(b->x(), 2); // a left-half hover puts the band's middle on B's left edge
+        const QColor background = uxTest::grab(bar).pixelColor(place);
+        QMimeData mime;
+        mime.setData(kButton, QUxQuickAccessButton::payload(b));
+        QDragEnterEvent enter(QPoint(b->x() + 1, 5), Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QDragMoveEvent move(QPoint(b->x() + 1, 5), Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(bar, &enter);
+        QApplication::sendEvent(bar, &move);
+        const double a = 150 / 255.0; // orange (244, 133, 22) at its most opaque over the bar
+        const QColor band(qRound(244 * a + background.red() * (1 - a)), qRound(133 * a + background.green() * (1 - a)),
+                          qRound(22 * a + background.blue() * (1 - a)));
+        QVERIFY(uxTest::sameColor(uxTest::grab(bar).pixelColor(place), band, 8));
+        dropOn(*bar, kButton, QUxQuickAccessButton::payload(b), b->x() + 1);
+        QVERIFY(uxTest::sameColor(uxTest::grab(bar).pixelColor(place), background, 2));
+    }
+
     void shouldAppendDroppedModuleWhereverDropped()
     {
         dropOn(*bar, kModule, QUxDockWidget::payload(dock("D", window.get())), 1);
