@@ -54,7 +54,6 @@ private slots:
         QTest::addColumn<QString>("menu");
         QTest::addColumn<QStringList>("order");
         QTest::addColumn<QString>("subGroup");
-        QTest::newRow("plain") << QStringList{"Scene", "Scene"} << "Scene" << QStringList{"m0", "m1"} << "";
         QTest::newRow("sub-group reversed behind its first")
             << QStringList{"Rendering", "Rendering/Lights", "Rendering/Lights", "Rendering/Lights"} << "Rendering"
             << QStringList{"m0", "m1", "m3", "m2"} << "Lights";
@@ -140,8 +139,7 @@ private slots:
         manager.add("A", "Scene", new QLabel);
         manager.add("B", "Various", new QLabel);
         manager.createGroupMenus(); // a second set, not in the manager's map
-        QCOMPARE(window.menuBar()->actions().size(), 16);
-        manager.updateMenus(); // empty groups and "Various" go
+        manager.updateMenus();      // empty groups and "Various" go
         QCOMPARE(texts(window.menuBar()).mid(0, 2) << QString::number(window.menuBar()->actions().size()),
                  (QStringList{"Scene", "Scene", "9"}));
 

@@ -484,7 +484,7 @@ void QUxDockWindowManager::addDefaultQuickAccess()
 
 void QUxDockWindowManager::setWindowOpacity(double opacity)
 {
-    if (!d->enabled)
+    if (!d->enabled || !qIsFinite(opacity))
         return;
     for (const QPointer<QUxDockWidget>& dock : qAsConst(d->docks)) {
         if (dock)
