@@ -161,10 +161,9 @@ private slots:
         QUxDockWindowManager manager(window);
         delete window;
         QLabel widget;
-        QCOMPARE(capturedStdout([&] { QVERIFY(!manager.add("A", "Scene", &widget)); }),
-                 "Error: Could not add widget. No main window specified!\n");
-        QCOMPARE(capturedStdout([&] { QVERIFY(!manager.addToolbar("T", "Scene", &widget)); }),
-                 "Error: Could not add widget. No main window specified!\n");
+        const QByteArray message = "Error: Could not add widget. No main window specified!\n";
+        QCOMPARE(capturedStdout([&] { QVERIFY(!manager.add("A", "Scene", &widget)); }), message);
+        QCOMPARE(capturedStdout([&] { QVERIFY(!manager.addToolbar("T", "Scene", &widget)); }), message);
         QVERIFY(manager.createGroupMenus().isEmpty());
         manager.updateMenus();
         manager.closeAll();
