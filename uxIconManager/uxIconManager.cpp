@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace {
@@ -99,9 +100,16 @@ QPixmap uxIconManager::get(const char* name)
     const QString path = resolve(QString::fromUtf8(name));
     if (path.isEmpty())
         return QPixmap();
+    // Tool bars ask for the same image on every button they add.
+    const QString key = QStringLiteral("uxIconManager:") + path;
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
     QSvgRenderer renderer(path);
     const QSize size = renderer.isValid() ? renderer.defaultSize() : QSize();
-    return renderSvg(path, size.width(), size.height());
+    pixmap = renderSvg(path, size.width(), size.height());
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }
 
 QPixmap uxIconManager::renderPixmap(const QString& name, int width, int height)

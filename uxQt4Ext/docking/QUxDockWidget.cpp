@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QStatusBar>
 #include <QSvgRenderer>
@@ -76,10 +77,16 @@ QPixmap QUxDockWidgetPrivate::renderPixmap(const QString& path, int width, int h
     // that module (and so its resource tree) loaded with this library.
     static const bool iconModuleLoaded = !uxIconManager::resolve(QStringLiteral("Various/Module.svg")).isEmpty();
     Q_UNUSED(iconModuleLoaded)
+    const qreal ratio = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+    // Every dock shows the same few images: rendering each SVG once per size
+    // keeps a host's start-up with hundreds of modules fast.
+    const QString key = QStringLiteral("QUxDockWidget:%1:%2x%3@%4").arg(path).arg(width).arg(height).arg(ratio);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
     if (!QFile::exists(path))
         return QPixmap();
-    const qreal ratio = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
-    QPixmap pixmap(int(ratio * width), int(ratio * height));
+    pixmap = QPixmap(int(ratio * width), int(ratio * height));
     if (pixmap.isNull())
         return pixmap;
     pixmap.fill(QColor(0, 0, 0, 0));
@@ -92,6 +99,8 @@ QPixmap QUxDockWidgetPrivate::renderPixmap(const QString& path, int width, int h
         const QImage image = QImage(path).scaled(pixmap.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         painter.drawImage(0, 0, image);
     }
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 

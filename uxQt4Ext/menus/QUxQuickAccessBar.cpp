@@ -61,6 +61,13 @@ public:
     std::set<const QObject*> modules;
 };
 
+// Made without a parent: the tool bar takes a widget out of its parent before
+// placing it, and taking one out of a main window walks the window's whole
+// focus chain, which made registering hundreds of modules quadratic.
+namespace {
+QUxQuickAccessButton* newButton() { return new QUxQuickAccessButton(nullptr); }
+} // namespace
+
 QAction* QUxQuickAccessBarPrivate::place(QUxQuickAccessButton* button, QAction* before)
 {
     if (!before)
@@ -145,7 +152,7 @@ void QUxQuickAccessBar::addModule(QUxDockWidget* widget, QAction* before, const 
     Q_UNUSED(unused)
     if (!widget || d->modules.count(widget))
         return;
-    auto* button = new QUxQuickAccessButton(this);
+    auto* button = newButton();
     button->setCheckable(true);
     button->setIcon(icon.isNull() ? widget->icon() : icon);
     button->setText(name.isEmpty() ? widget->nickName() : name);
@@ -163,7 +170,7 @@ void QUxQuickAccessBar::addModule(QUxDockWidget* widget, QAction* before, const 
 
 void QUxQuickAccessBar::addButton(QAction* action, const QIcon& icon)
 {
-    auto* button = new QUxQuickAccessButton(this);
+    auto* button = newButton();
     QAction* barAction = d->place(button, nullptr);
     barAction->setText(tr("Title"));
     button->setDefaultAction(action);

@@ -60,16 +60,24 @@ int truncatedWidth(double width)
     return width >= double(QWIDGETSIZE_MAX) ? QWIDGETSIZE_MAX : int(width);
 }
 
+// Setting a style sheet re-polishes the button even when the text is the same,
+// and every add restyles the whole bar: skip what is already in place.
+void setStyleSheetOnce(QToolButton* button, const QString& styleSheet)
+{
+    if (button->styleSheet() != styleSheet)
+        button->setStyleSheet(styleSheet);
+}
+
 void styleButton(QToolButton* button, bool quickAccess, bool withText)
 {
     button->setAutoRaise(false);
     const int large = uxPlatform::getLargeIconSizeX();
     if (quickAccess) {
-        button->setStyleSheet(styleQuickAccess());
+        setStyleSheetOnce(button, styleQuickAccess());
         button->setMinimumWidth(truncatedWidth(large + 4.0));
         return;
     }
-    button->setStyleSheet(withText ? styleWText() : styleWOText());
+    setStyleSheetOnce(button, withText ? styleWText() : styleWOText());
     button->setMinimumWidth(truncatedWidth(large + 12.0 * uxPlatform::getDpiScaleX()));
 }
 
