@@ -19,6 +19,7 @@ int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("uxGallery"));
+    QApplication::setOrganizationName(QStringLiteral("uxQt4Ext"));
     app.setStyleSheet(QString::fromLatin1(feedbackStyleSheet));
     QLocale::setDefault(QLocale::c());
 
@@ -26,12 +27,14 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(QStringLiteral("The uxQt4Ext widget gallery."));
     parser.addHelpOption();
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        QStringLiteral("Render every page to DIR/<page>.png and exit."),
+                                        QStringLiteral("Render every page to DIR/<page>.png, the whole window to "
+                                                       "DIR/gallery.png, and exit."),
                                         QStringLiteral("DIR"));
     parser.addOption(screenshot);
     parser.process(app);
 
-    GalleryWindow window;
+    // Screenshots show the first-start layout, whatever the last session left.
+    GalleryWindow window(!parser.isSet(screenshot));
     if (parser.isSet(screenshot)) {
         window.show();
         QApplication::processEvents();

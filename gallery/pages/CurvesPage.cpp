@@ -349,4 +349,4 @@ private:
 
 } // namespace
 
-UX_GALLERY_PAGE(40, "Curves & Time", "curves", [] { return new CurvesPage; });
+UX_GALLERY_PAGE(40, "Curves and Time", "curves", [] { return new CurvesPage; });

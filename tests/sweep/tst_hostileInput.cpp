@@ -14,6 +14,7 @@
 #include <QUxCustomDelegate.h>
 #include <QUxDataWidgetMapper.h>
 #include <QUxDockWidget.h>
+#include <QUxDockWindowManager.h>
 #include <QUxDoubleSpiner.h>
 #include <QUxDragModuleLabel.h>
 #include <QUxElidedLabel.h>
@@ -29,6 +30,8 @@
 #include <QUxLed.h>
 #include <QUxOpenMenu.h>
 #include <QUxPushButton.h>
+#include <QUxQuickAccessBar.h>
+#include <QUxQuickAccessButton.h>
 #include <QUxSAMenu.h>
 #include <QUxScrollBarPositionSaver.h>
 #include <QUxScrollableMessageBox.h>
@@ -57,7 +60,9 @@
 #include <uxUIUtils.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QSlider>
@@ -1092,6 +1097,110 @@ void addMenusAndToolBars(uxHostile::Sweep& sweep)
     });
 }
 
+/// @p payload under @p format dropped on @p target at @p x, after a drag move there.
+void dropPayload(QWidget* target, const QString& format, const QByteArray& payload, int x)
+{
+    QMimeData data;
+    data.setData(format, payload);
+    QDragEnterEvent enter(QPoint(2, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(QPoint(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &move);
+    QDropEvent drop(QPointF(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+}
+
+void addQuickAccessAndManager(uxHostile::Sweep& sweep)
+{
+    using Q = QUxQuickAccessBar;
+    const QString module = QStringLiteral("application/corva-module-icon");
+    const QString button = QStringLiteral("application/corva-quickAccess-button");
+    sweep
+        .add<Q>("QUxQuickAccessBar", sized<Q, 300, 40>,
+                [](Q& q) {
+                    QUxDockWidget dock(QStringLiteral("Lights"), QStringLiteral("Lights"));
+                    dock.setIntName(QStringLiteral("Lights"));
+                    q.addModule(&dock, nullptr, QIcon(), QString(), QString(), false);
+                    QCOMPARE(q.moduleNames(), std::vector<QString>{QStringLiteral("Lights")});
+                })
+        .op("addModule(named)",
+            [](Q& q, const QString& s) {
+                QUxDockWidget dock(qtText(s), s);
+                dock.setIntName(s);
+                q.addModule(&dock, nullptr, QIcon(), qtText(s), qtText(s), true);
+                q.grab();
+            })
+        .op("addModule", [](Q& q, QUxDockWidget* d) { q.addModule(d, nullptr, QIcon(), {}, {}, false); })
+        .op("addButton, addSpecial, clear",
+            [](Q& q, QAction* a) {
+                q.addButton(a, QIcon());
+                q.addSpecial(a);
+                q.clear();
+            })
+        .op("drop payloads",
+            [module, button](Q& q, const QString& s) {
+                dropPayload(&q, module, s.toLatin1(), 10);
+                dropPayload(&q, button, s.toLatin1(), 10);
+            })
+        .op("drag a button to x", [button](Q& q, int x) {
+            QUxDockWidget dock;
+            q.addModule(&dock, nullptr, QIcon(), {}, {}, false);
+            dropPayload(&q, button, QUxQuickAccessButton::payload(QUxQuickAccessButton::lastCreated()), x);
+        });
+
+    using B = QUxQuickAccessButton;
+    sweep.add<B>("QUxQuickAccessButton", sized<B, 40, 40>, [](B& b) { QCOMPARE(B::fromPayload(B::payload(&b)), &b); })
+        .op("setDockWidget",
+            [](B& b, QUxDockWidget* d) { b.setDockWidget(d), b.toggle(), b.changedWidgetVisibility(true); })
+        .op("fromPayload", [](B&, const QString& s) { QCOMPARE(B::fromPayload(s.toLatin1()), nullptr); });
+
+    using M = QUxDockWindowManager;
+    struct Host
+    {
+        QMainWindow window;
+        M manager{&window};
+    };
+    const auto host = [] {
+        const auto owner = std::make_shared<Host>();
+        return std::shared_ptr<M>(owner, &owner->manager);
+    };
+    sweep
+        .add<M>("QUxDockWindowManager", host,
+                [](M& m) {
+                    QUxDockWidget* dock = m.add("Lights", QStringLiteral("Rendering/Lamps"), new QLabel);
+                    QVERIFY(dock);
+                    QCOMPARE(m.getDockWidget(QStringLiteral("Lights")), dock);
+                    QVERIFY(m.sub(QStringLiteral("Lights")));
+                })
+        .op("add(name, group)",
+            [](M& m, const QString& s) {
+                const QByteArray name = qtText(s).toUtf8();
+                auto* widget = new QLabel;
+                if (!m.add(name.constData(), s, widget, s, QIcon(), s, Qt::NoDockWidgetArea, true, nullptr))
+                    delete widget;                      // refused: still the caller's
+                m.add(name.constData(), s, new QLabel); // a duplicate: docked, but the first keeps the name
+                m.updateMenus();
+            })
+        .op("add(area)",
+            [](M& m, Enum area) {
+                m.createGroupMenus();
+                m.add("Lamps", QStringLiteral("Rendering"), new QLabel, {}, {}, {},
+                      area.masked<Qt::DockWidgetArea>(Qt::AllDockWidgetAreas));
+            })
+        .op("add(nullptr)",
+            [](M& m, QWidget* w) {
+                QVERIFY(!m.add("Lights", {}, w));
+                QVERIFY(!m.addToolbar("Bar", {}, w));
+            })
+        .op("by unknown name",
+            [](M& m, const QString& s) {
+                m.show(s), m.hide(s), m.showMenuItem(s, s), m.hideMenuItem(s, s);
+                QVERIFY(!m.getDockWidget(s) && !m.get(s) && !m.getToolbar(s));
+                QVERIFY(!m.undock(s) && !m.sub(s) && !m.change(s, nullptr));
+            })
+        .ops("setWindowOpacity", &M::setWindowOpacity, "sub(widget)", qOverload<QWidget*>(&M::sub));
+}
+
 const uxHostile::Sweep& theSweep()
 {
     static const uxHostile::Sweep sweep = [] {
@@ -1106,6 +1215,7 @@ const uxHostile::Sweep& theSweep()
         addItemViews(s);
         addDockingAndLabels(s);
         addMenusAndToolBars(s);
+        addQuickAccessAndManager(s);
         return s;
     }();
     return sweep;
