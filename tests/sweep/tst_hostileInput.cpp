@@ -974,7 +974,7 @@ void addDockingAndLabels(uxHostile::Sweep& sweep)
         .op("resize", [](E& e, QSize size) {
             e.setText(QStringLiteral("long text"));
             e.resize(size);
-            e.grab();
+            e.grab(QRect(0, 0, 40, 20)); // paints at that size; a whole grab of INT_MAX^2 would not fit in memory
             e.resize(40, 20);
         });
 
