@@ -131,6 +131,47 @@ private slots:
         }
     }
 
+    void shouldOpenAnimationToolsFloatingWithTheTimeline()
+    {
+        QMainWindow window;
+        window.show();
+        QUxDockWindowManager manager(&window);
+        QUxDockWidget* curves =
+            manager.add("Curve Editor", "Animation", new QLabel, {}, {}, {}, Qt::LeftDockWidgetArea);
+        QUxDockWidget* clips = manager.add("Clip Maker", "Animation", new QLabel, {}, {}, {}, Qt::BottomDockWidgetArea);
+        manager.addToolbar("Timeline", "Animation", new QLabel, true);
+        QAction action("Animations");
+        QMetaObject::invokeMethod(&manager, "executeAction", Q_ARG(QAction*, &action));
+        for (QUxDockWidget* dock : {curves, clips})
+            QVERIFY(dock->isFloating() && dock->isVisible());
+        QVERIFY(manager.getToolbar("Timeline")->isVisible());
+    }
+
+    void shouldApplySwitchesToEveryModuleAndMenuItem()
+    {
+        QMainWindow window;
+        window.show();
+        QUxDockWindowManager manager(&window);
+        const auto menus = manager.createGroupMenus();
+        QUxDockWidget* docked = manager.add("A", "Scene", new QLabel, {}, {}, {}, Qt::LeftDockWidgetArea);
+        QUxDockWidget* floating = manager.add("B", "Scene", new QLabel, {}, {}, {}, Qt::NoDockWidgetArea);
+        manager.setWindowDocking(false);
+        QCOMPARE(int(docked->allowedAreas()) + int(floating->allowedAreas()), 0);
+        manager.setWindowDocking(true);
+        QCOMPARE(int(floating->allowedAreas()), 11);
+        QMenu* scene = menus.value("Scene").first;
+        scene->addAction("A"), scene->addAction("a");
+        manager.hideMenuItem("A", "Scene");
+        QCOMPARE(QList<bool>({scene->actions().at(0)->isVisible(), scene->actions().at(2)->isVisible(),
+                              scene->actions().at(3)->isVisible()}),
+                 QList<bool>({false, false, true})); // every exact match, and only those
+        manager.show("A"), manager.show("B");
+        manager.closeAllFloating();
+        QVERIFY(docked->isVisible() && !floating->isVisible());
+        manager.closeAllDocked();
+        QVERIFY(!docked->isVisible());
+    }
+
     void shouldTrimMenuBarAndSwallowTimelineMouseMenu()
     {
         QMainWindow window;
