@@ -907,15 +907,23 @@ void addItemViews(uxHostile::Sweep& sweep)
             [](QScrollBar&, QScrollBar* bar) { const QUxScrollBarPositionSaver keep(bar); });
 }
 
-/// A drop of @p urls delivered straight to @p target's handlers.
+/// A drag of @p data entering @p target, moving to @p x and dropped there, delivered straight to its handlers.
+void deliverDrop(QWidget* target, const QMimeData& data, int x)
+{
+    QDragEnterEvent enter(QPoint(2, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(QPoint(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &move);
+    QDropEvent drop(QPointF(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+}
+
+/// A drop of @p urls on @p target.
 void dropUrls(QWidget* target, const QList<QUrl>& urls)
 {
     QMimeData data;
     data.setUrls(urls);
-    QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
+    deliverDrop(target, data, 2);
 }
 
 /// The search field of a search menu, typed into.
@@ -1097,17 +1105,12 @@ void addMenusAndToolBars(uxHostile::Sweep& sweep)
     });
 }
 
-/// @p payload under @p format dropped on @p target at @p x, after a drag move there.
+/// @p payload under @p format dropped on @p target at @p x.
 void dropPayload(QWidget* target, const QString& format, const QByteArray& payload, int x)
 {
     QMimeData data;
     data.setData(format, payload);
-    QDragEnterEvent enter(QPoint(2, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDragMoveEvent move(QPoint(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &move);
-    QDropEvent drop(QPointF(x, 2), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
+    deliverDrop(target, data, x);
 }
 
 void addQuickAccessAndManager(uxHostile::Sweep& sweep)
