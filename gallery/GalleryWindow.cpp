@@ -51,6 +51,7 @@ const QString settingsQuickAccess = QStringLiteral("quickAccess");
 GalleryWindow::GalleryWindow(bool keepLayout, QWidget* parent)
     : QMainWindow(parent), m_manager(new QUxDockWindowManager(this)), m_keepLayout(keepLayout)
 {
+    m_manager->setParent(this); // made parentless, like a host's; lives as long as the window
     setWindowTitle(tr("uxQt4Ext Gallery"));
     setObjectName(QStringLiteral("GalleryWindow"));
     setDockOptions(AnimatedDocks | AllowTabbedDocks | AllowNestedDocks);
@@ -72,8 +73,6 @@ GalleryWindow::GalleryWindow(bool keepLayout, QWidget* parent)
     if (!m_docks.isEmpty())
         m_docks.first()->raise();
 }
-
-GalleryWindow::~GalleryWindow() { delete m_manager; }
 
 void GalleryWindow::addPages()
 {

@@ -15,7 +15,6 @@ class GalleryWindow : public QMainWindow
 public:
     /// @p keepLayout restores the last session's layout now and saves it on close.
     explicit GalleryWindow(bool keepLayout = true, QWidget* parent = nullptr);
-    ~GalleryWindow() override;
 
     /// Renders every page to DIR/<page>.png and the whole window to DIR/gallery.png; returns the written paths.
     QStringList saveScreenshots(const QString& directory);
