@@ -1,0 +1,208 @@
+#include <QUxQuadSplitter.h>
+
+#include "uxTestSupport.h"
+
+#include <QApplication>
+#include <QRubberBand>
+#include <QSignalSpy>
+#include <QTest>
+
+using Rects = QVector<QRect>;
+Q_DECLARE_METATYPE(Rects)
+
+namespace {
+
+// A shown 400 x 300 splitter (cross point at 200, 150) with @p panes views named "Render".
+struct Fixture
+{
+    QUxQuadSplitter splitter;
+    QVector<QWidget*> frames;
+    explicit Fixture(int panes)
+    {
+        for (int i = 0; i < panes; ++i) {
+            auto* view = new QWidget;
+            view->setObjectName("Render");
+            frames << splitter.insertWidget(view, -1);
+        }
+        splitter.resize(400, 300);
+        splitter.show();
+    }
+    Rects geometries() const
+    {
+        Rects rects;
+        for (const QWidget* frame : frames)
+            rects << frame->geometry();
+        return rects;
+    }
+    QRubberBand* band(bool vertical) const
+    {
+        for (QRubberBand* band : splitter.findChildren<QRubberBand*>())
+            if ((band->height() > band->width()) == vertical)
+                return band;
+        return nullptr;
+    }
+};
+
+} // namespace
+
+class tst_QUxQuadSplitter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void shouldTilePanesAroundTheCrossPoint_data()
+    {
+        QTest::addColumn<int>("panes");
+        QTest::addColumn<Rects>("expected");
+        QTest::newRow("one") << 1 << Rects{{0, 0, 400, 300}};
+        QTest::newRow("two") << 2 << Rects{{2, 2, 197, 296}, {201, 2, 197, 296}};
+        QTest::newRow("three") << 3 << Rects{{2, 2, 197, 147}, {201, 2, 197, 147}, {2, 151, 396, 147}};
+        QTest::newRow("four") << 4
+                              << Rects{{2, 2, 197, 147}, {201, 2, 197, 147}, {2, 151, 197, 147}, {201, 151, 197, 147}};
+    }
+    void shouldTilePanesAroundTheCrossPoint()
+    {
+        QFETCH(int, panes);
+        Fixture f(panes);
+        QFETCH(Rects, expected);
+        QCOMPARE(f.geometries(), expected);
+        const QWidget* view = f.frames.last()->findChild<QWidget*>("Render");
+        QCOMPARE(view->geometry(), QRect(QPoint(2, 2), f.frames.last()->size() - QSize(4, 4)));
+    }
+
+    void shouldCentreALonePaneOfFixedSizeOnlyWhenBothSidesArePositive_data()
+    {
+        QTest::addColumn<QSize>("fixed");
+        QTest::addColumn<QRect>("expected");
+        QTest::newRow("fixed") << QSize(100, 50) << QRect(148, 123, 104, 54);
+        QTest::newRow("zero height") << QSize(100, 0) << QRect(0, 0, 400, 300);
+        QTest::newRow("negative") << QSize(-5, -5) << QRect(0, 0, 400, 300);
+    }
+    void shouldCentreALonePaneOfFixedSizeOnlyWhenBothSidesArePositive()
+    {
+        Fixture f(1);
+        QFETCH(QSize, fixed);
+        QFETCH(QRect, expected);
+        f.splitter.setChildFixedSize(fixed.width(), fixed.height());
+        QCOMPARE(f.frames.at(0)->geometry(), expected);
+    }
+
+    void shouldShowTheCursorOfTheBarUnderTheMouse_data()
+    {
+        QTest::addColumn<int>("panes");
+        QTest::addColumn<QPoint>("pos");
+        QTest::addColumn<Qt::CursorShape>("cursor");
+        QTest::newRow("crossing") << 4 << QPoint(201, 149) << Qt::SizeAllCursor;
+        QTest::newRow("vertical bar") << 4 << QPoint(199, 40) << Qt::SplitHCursor;
+        QTest::newRow("horizontal bar") << 4 << QPoint(40, 150) << Qt::SplitVCursor;
+        QTest::newRow("beside the bar") << 4 << QPoint(202, 40) << Qt::ArrowCursor;
+        QTest::newRow("one pane, y only") << 1 << QPoint(200, 150) << Qt::SplitVCursor;
+    }
+    void shouldShowTheCursorOfTheBarUnderTheMouse()
+    {
+        QFETCH(int, panes);
+        Fixture f(panes);
+        QFETCH(QPoint, pos);
+        QFETCH(Qt::CursorShape, cursor);
+        uxTest::moveMouse(&f.splitter, pos, Qt::NoButton);
+        QCOMPARE(f.splitter.cursor().shape(), cursor);
+    }
+
+    void shouldApplyADragOnReleaseKeepRatiosOnResizeAndDropItOnEscape_data()
+    {
+        QTest::addColumn<bool>("escape");
+        QTest::addColumn<QRect>("topLeft");
+        QTest::addColumn<QRect>("bottomRightAfterResize");
+        QTest::newRow("released") << false << QRect(2, 2, 297, 72) << QRect(601, 151, 197, 447);
+        QTest::newRow("escape") << true << QRect(2, 2, 197, 147) << QRect(401, 301, 397, 297);
+    }
+    void shouldApplyADragOnReleaseKeepRatiosOnResizeAndDropItOnEscape()
+    {
+        QFETCH(bool, escape);
+        Fixture f(4);
+        QTest::mousePress(&f.splitter, Qt::LeftButton, Qt::NoModifier, QPoint(200, 150));
+        QVERIFY(f.band(true)->isVisible() && f.band(false)->isVisible());
+        uxTest::moveMouse(&f.splitter, QPoint(300, 75));
+        QCOMPARE(f.band(true)->x(), 298);
+        QCOMPARE(f.geometries().at(0), QRect(2, 2, 197, 147)); // nothing moves before the release
+        if (escape)
+            QTest::keyClick(&f.splitter, Qt::Key_Escape);
+        QTest::mouseRelease(&f.splitter, Qt::LeftButton, Qt::NoModifier, QPoint(300, 75));
+        QVERIFY(!f.band(true)->isVisible() && !f.band(false)->isVisible());
+        QFETCH(QRect, topLeft);
+        QCOMPARE(f.geometries().at(0), topLeft);
+        f.splitter.resize(800, 600);
+        QFETCH(QRect, bottomRightAfterResize);
+        QCOMPARE(f.geometries().at(3), bottomRightAfterResize);
+    }
+
+    void shouldEndADragReleasedOutsideWhenThePointerEntersAView()
+    {
+        Fixture f(4);
+        QTest::mousePress(&f.splitter, Qt::LeftButton, Qt::NoModifier, QPoint(200, 150));
+        uxTest::moveMouse(&f.splitter, QPoint(390, 290));
+        uxTest::moveMouse(&f.splitter, QPoint(1000, -50)); // beyond the loose bound: ignored
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(f.frames.at(0), &enter);
+        QCOMPARE(f.geometries(), (Rects{{2, 2, 387, 287}, {391, 2, 7, 287}, {2, 291, 387, 7}, {391, 291, 7, 7}}));
+    }
+
+    void shouldIgnoreBadPanesAndSizes()
+    {
+        Fixture f(4);
+        QWidget fifth;
+        QVERIFY(!f.splitter.insertWidget(&fifth, 0));
+        QVERIFY(!f.splitter.insertWidget(nullptr, -1));
+        QCOMPARE(fifth.parentWidget(), nullptr);
+        QWidget stranger;
+        f.splitter.removeWidget(&stranger);
+        f.splitter.removeWidget(nullptr);
+        QCOMPARE(f.splitter.count(), 4);
+        QVERIFY(f.splitter.hasWidget(3) && !f.splitter.hasWidget(4) && !f.splitter.hasWidget(nullptr));
+        for (const QSize& size : {QSize(0, 0), QSize(-10, -10), QSize(1, 1)})
+            f.splitter.resize(size);
+        f.splitter.setChildFixedSize(INT_MAX, INT_MAX);
+        f.splitter.setPosition(INT_MAX, INT_MIN);
+        f.splitter.resize(400, 300);
+        QCOMPARE(f.geometries().at(3), QRect(201, 151, 197, 147));
+        f.splitter.removeWidget(f.frames.takeAt(1));
+        QVERIFY(!f.splitter.hasWidget(3));
+        QCOMPARE(f.geometries(), (Rects{{2, 2, 197, 147}, {201, 2, 197, 147}, {2, 151, 396, 147}}));
+    }
+
+    void shouldOutlineTheCurrentViewInTheHighlightColour()
+    {
+        Fixture f(2);
+        QWidget* current = f.frames.at(1)->findChild<QWidget*>("Render");
+        QList<int> arguments;
+        f.splitter.setCurrentWidgetCallback([&](int argument) {
+            arguments << argument;
+            return current;
+        });
+        QSignalSpy focusChanged(&f.splitter, &QUxQuadSplitter::focusChanged);
+        f.splitter.setFocus(current);
+        f.splitter.updateFocus(current); // already the focus widget: nothing happens
+        QVERIFY(arguments.isEmpty());
+        f.splitter.updateFocus(nullptr);
+        QCOMPARE(arguments, QList<int>{-1});
+        QCOMPARE(focusChanged.count(), 0); // the focus widget was never emitted as set
+        const QPalette pal = f.splitter.palette();
+        QCOMPARE(uxTest::grab(f.frames.at(1)).pixelColor(0, 0), pal.color(QPalette::Highlight));
+        QCOMPARE(uxTest::grab(f.frames.at(0)).pixelColor(0, 0), pal.color(QPalette::Window));
+    }
+
+    void shouldPaintTheGridBackgroundAndHaveAnAccessibleName()
+    {
+        Fixture f(0);
+        const QImage image = uxTest::grab(&f.splitter);
+        const QVector<QPair<QPoint, QRgb>> samples{{{5, 5}, 0x2F2F2F},     {{0, 37}, 0x232323},  {{10, 0}, 0x232323},
+                                                   {{10, 20}, 0x2B2B2B},   {{50, 20}, 0x272727}, {{20, 50}, 0x272727},
+                                                   {{150, 110}, 0x272727}, {{130, 7}, 0x2B2B2B}};
+        for (const auto& sample : samples)
+            QCOMPARE(image.pixel(sample.first) & 0xFFFFFF, sample.second);
+        QVERIFY(!f.splitter.accessibleName().isEmpty());
+    }
+};
+
+QTEST_MAIN(tst_QUxQuadSplitter)
+#include "tst_QUxQuadSplitter.moc"
