@@ -24,7 +24,8 @@ class QUxQuadSplitterPrivate;
  * @endcode
  * Each view sits in a uxHighlightWidget frame; insertWidget() returns that
  * frame, which is also what removeWidget() and hasWidget() take. A fifth view,
- * a null widget or an unknown frame is ignored.
+ * a null widget or an unknown frame is ignored; a view inserted twice keeps
+ * its first frame.
  */
 class UXQT4EXT_EXPORT QUxQuadSplitter : public QWidget
 {
@@ -42,7 +43,7 @@ public:
     ~QUxQuadSplitter() override;
 
     /// Wraps @p widget in a new frame at @p index (appended when negative) and returns the frame;
-    /// null for a null widget or when four panes exist already.
+    /// null for a null widget, the splitter or one of its ancestors, or when four panes exist already.
     QWidget* insertWidget(QWidget* widget, int index = -1);
     /// Deletes @p frame (as returned by insertWidget()) with its view; anything else is ignored.
     void removeWidget(QWidget* frame);
