@@ -145,8 +145,12 @@ private slots:
         QVERIFY(f.splitter.hasWidget(3) && !f.splitter.hasWidget(4) && !f.splitter.hasWidget(nullptr));
         for (const QSize& size : {QSize(0, 0), QSize(-10, -10), QSize(1, 1)})
             f.splitter.resize(size);
-        f.splitter.setChildFixedSize(INT_MAX, INT_MAX);
+        QTest::mousePress(&f.splitter, Qt::LeftButton, Qt::NoModifier, QPoint(0, 0)); // on the crossing
         f.splitter.setPosition(INT_MAX, INT_MIN);
+        QTest::keyClick(&f.splitter, Qt::Key_Escape);
+        Fixture lone(1);
+        lone.splitter.setChildFixedSize(INT_MAX, INT_MAX);
+        QVERIFY(lone.frames.at(0)->width() > 400);
         f.splitter.resize(400, 300);
         QCOMPARE(f.geometries().at(3), QRect(201, 151, 197, 147));
         f.splitter.removeWidget(f.frames.takeAt(1));
