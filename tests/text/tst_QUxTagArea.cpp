@@ -45,6 +45,8 @@ private slots:
             QCOMPARE(shownTags(area), list);
         }
         QCOMPARE(area.findChildren<QUxTagLabel*>().size(), 5);
+        area.setUsedLabelCount(-1);
+        QCOMPARE(shownTags(area), QStringList());
     }
 
     void shouldAskForRemovalOnly_data()

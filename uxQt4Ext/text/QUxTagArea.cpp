@@ -5,6 +5,13 @@
 
 #include <algorithm>
 
+namespace {
+
+// Chips made ahead of any tag list: enough for any real pool, small enough not to stall on a wild count.
+constexpr int kSpareChipLimit = 10000;
+
+} // namespace
+
 class QUxTagAreaPrivate
 {
 public:
@@ -13,6 +20,8 @@ public:
     QUxTagLabel* lastLabel = nullptr;
     QWidget* container = nullptr;
     QUxFlowLayout* flowLayout = nullptr;
+    // Chips the list being shown needs, beyond the spare limit.
+    int needed = 0;
 };
 
 QUxTagArea::QUxTagArea(QWidget* parent) : QScrollArea(parent), d(std::make_unique<QUxTagAreaPrivate>())
@@ -43,8 +52,11 @@ QStringList QUxTagArea::getTags() const { return d->tags; }
 
 void QUxTagArea::updateLabels(const QStringList& tags)
 {
+    d->needed = tags.size();
     setUsedLabelCount(tags.size());
-    for (int i = 0; i < tags.size(); ++i) {
+    d->needed = 0;
+    const int shown = std::min(tags.size(), d->labels.size());
+    for (int i = 0; i < shown; ++i) {
         d->labels.at(i)->setTag(tags.at(i));
         d->labels.at(i)->show();
     }
@@ -52,7 +64,8 @@ void QUxTagArea::updateLabels(const QStringList& tags)
 
 void QUxTagArea::setUsedLabelCount(int count)
 {
-    while (d->labels.size() < count) {
+    const int wanted = std::min(count, std::max(kSpareChipLimit, d->needed));
+    while (d->labels.size() < wanted) {
         d->lastLabel = createLabel(d->lastLabel);
         d->labels.append(d->lastLabel);
     }

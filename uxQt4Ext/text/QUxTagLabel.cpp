@@ -62,6 +62,7 @@ QUxTagLabel::QUxTagLabel(QWidget* parent) : QFrame(parent), d(std::make_unique<Q
     d->textLabel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     d->iconLabel = new QLabel(this);
     d->iconLabel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    d->iconLabel->setAccessibleName(tr("Remove tag"));
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -79,6 +80,7 @@ void QUxTagLabel::setTag(const QString& tag)
         return;
     d->tag = tag;
     d->textLabel->setText(tag);
+    setAccessibleName(tag);
 }
 
 QString QUxTagLabel::getTag() const { return d->tag; }
