@@ -49,11 +49,7 @@ QUxFlowLayout::QUxFlowLayout(int margin, int hSpacing, int vSpacing)
     : QUxFlowLayout(nullptr, margin, hSpacing, vSpacing)
 {}
 
-QUxFlowLayout::~QUxFlowLayout()
-{
-    while (QLayoutItem* item = takeAt(0))
-        delete item;
-}
+QUxFlowLayout::~QUxFlowLayout() { qDeleteAll(d->items); }
 
 void QUxFlowLayout::addItem(QLayoutItem* item)
 {
