@@ -22,7 +22,8 @@ namespace {
 
 constexpr qint64 kIntMax = std::numeric_limits<int>::max();
 
-int clampToInt(qint64 value) { return int(std::clamp<qint64>(value, -kIntMax, kIntMax)); }
+/// @p value as an int that leaves room for @p extent more without overflow.
+int clampToInt(qint64 value, int extent = 0) { return int(std::clamp<qint64>(value, -kIntMax, kIntMax - extent)); }
 
 /// The gap the item's own style asks for between two push buttons; never negative.
 int styleGap(QLayoutItem* item, const QWidget* parent, Qt::Orientation orientation)
@@ -137,22 +138,22 @@ int QUxFlowLayout::smartSpacing(QStyle::PixelMetric metric) const
 
 int QUxFlowLayout::doLayout(const QRect& rect, bool testOnly) const
 {
-    const QRect area = rect.marginsRemoved(contentsMargins());
+    // 64-bit throughout: thousands of wide items, or a rectangle far out, must not overflow.
+    const QMargins margins = contentsMargins();
     const int spaceX = horizontalSpacing();
     const int spaceY = verticalSpacing();
     const QWidget* owner = parentWidget();
-    // 64-bit positions: thousands of wide items must not overflow.
-    const qint64 left = area.x();
+    const qint64 left = qint64(rect.left()) + margins.left();
     // The edge just past the last pixel: an item that ends exactly there still fits.
-    const qint64 edge = qint64(area.x()) + area.width();
+    const qint64 edge = qint64(rect.right()) + 1 - margins.right();
     qint64 x = left;
-    qint64 y = area.y();
+    qint64 y = qint64(rect.top()) + margins.top();
     qint64 lineHeight = 0;
     for (QLayoutItem* item : qAsConst(d->items)) {
         // Hidden widgets neither take room nor start rows.
         if (item->widget() && item->isEmpty())
             continue;
-        const QSize hint = item->sizeHint();
+        const QSize hint = item->sizeHint().expandedTo(QSize(0, 0));
         const qint64 gapX = spaceX >= 0 ? spaceX : styleGap(item, owner, Qt::Horizontal);
         const qint64 gapY = spaceY >= 0 ? spaceY : styleGap(item, owner, Qt::Vertical);
         qint64 nextX = x + hint.width() + gapX;
@@ -163,9 +164,9 @@ int QUxFlowLayout::doLayout(const QRect& rect, bool testOnly) const
             lineHeight = 0;
         }
         if (!testOnly)
-            item->setGeometry(QRect(QPoint(clampToInt(x), clampToInt(y)), hint));
+            item->setGeometry(QRect(QPoint(clampToInt(x, hint.width()), clampToInt(y, hint.height())), hint));
         x = nextX;
         lineHeight = std::max<qint64>(lineHeight, hint.height());
     }
-    return clampToInt(y + lineHeight - rect.y() + contentsMargins().bottom());
+    return clampToInt(y + lineHeight - rect.y() + margins.bottom());
 }
