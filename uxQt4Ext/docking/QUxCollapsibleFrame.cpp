@@ -111,7 +111,7 @@ public:
     QLabel* caption = nullptr;
     QCheckBox* headerCheckBox = nullptr;
     QFrame* header = nullptr;
-    // The frame makes no LED of its own; the settings are kept for one a subclass may add.
+    // The frame makes no LED of its own: settings are recorded, and forwarded while there is one.
     QPointer<QUxLed> led;
     QUxCollapsibleFrame::LedColor ledOnColor = QUxCollapsibleFrame::WHITE;
     QUxCollapsibleFrame::LedColor ledOffColor = QUxCollapsibleFrame::BLACK;
@@ -210,7 +210,8 @@ QString QUxCollapsibleFrame::caption() const { return d->caption->text(); }
 void QUxCollapsibleFrame::setCaption(const QString& value)
 {
     d->caption->setText(value);
-    d->header->setAccessibleName(value);
+    // A frame without a caption is still named to screen readers.
+    d->header->setAccessibleName(value.isEmpty() ? tr("Collapsible frame") : value);
 }
 
 Qt::Alignment QUxCollapsibleFrame::captionAlignment() const { return d->caption->alignment(); }
