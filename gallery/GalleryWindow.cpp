@@ -32,6 +32,7 @@ QString groupOf(const QString& fileName)
         {QStringLiteral("itemviews"), QStringLiteral("Scene")},
         {QStringLiteral("docking"), QStringLiteral("Interaction/Windows")},
         {QStringLiteral("docking-150"), QStringLiteral("Interaction/Windows")},
+        {QStringLiteral("layout"), QStringLiteral("Interaction/Windows")},
     };
     return groups.value(fileName, QStringLiteral("Scene"));
 }
