@@ -6,6 +6,7 @@
 #include <QUxCachedSelectionModel.h>
 #include <QUxCachedTreeView.h>
 #include <QUxClickableLabel.h>
+#include <QUxCollapsibleFrame.h>
 #include <QUxColor.h>
 #include <QUxColorArray.h>
 #include <QUxColorCell.h>
@@ -19,6 +20,7 @@
 #include <QUxDragModuleLabel.h>
 #include <QUxElidedLabel.h>
 #include <QUxFileDropLineEdit.h>
+#include <QUxFlowLayout.h>
 #include <QUxGraphEditor.h>
 #include <QUxIntVector2DSlider.h>
 #include <QUxIntVector2DSpiner.h>
@@ -30,6 +32,7 @@
 #include <QUxLed.h>
 #include <QUxOpenMenu.h>
 #include <QUxPushButton.h>
+#include <QUxQuadSplitter.h>
 #include <QUxQuickAccessBar.h>
 #include <QUxQuickAccessButton.h>
 #include <QUxSAMenu.h>
@@ -39,6 +42,8 @@
 #include <QUxSliderSwitch.h>
 #include <QUxSortFilterProxyModel.h>
 #include <QUxSpiner.h>
+#include <QUxTagArea.h>
+#include <QUxTagLabel.h>
 #include <QUxTimeLine.h>
 #include <QUxTimeLineRange.h>
 #include <QUxTitleBarGUIW.h>
@@ -55,11 +60,13 @@
 #include <QUxWheelPrec.h>
 #include <QUxWhiteBalance.h>
 #include <uxHeaderViewBase.h>
+#include <uxHighlightWidget.h>
 #include <uxSignalBlocker.h>
 #include <uxUIStyle.h>
 #include <uxUIUtils.h>
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -1023,6 +1030,161 @@ void addDockingAndLabels(uxHostile::Sweep& sweep)
         .op("setText, makeScrollable", [](B& b, const QString& s) { b.setText(s.left(65536)), b.makeScrollable(); });
 }
 
+/// A splitter of @p views painted frames, 400 x 300.
+std::shared_ptr<QUxQuadSplitter> quad(int views = 4)
+{
+    auto q = std::make_shared<QUxQuadSplitter>();
+    q->resize(400, 300);
+    for (int i = 0; i < views; ++i)
+        q->insertWidget(new QWidget, -1);
+    return q;
+}
+
+/// A widget laid out by a flow layout of @p count fixed-size items.
+QWidget* newFlow(int count, int spacing)
+{
+    auto* w = new QWidget;
+    auto* flow = new QUxFlowLayout(w, 2, spacing, spacing);
+    for (int i = 0; i < count; ++i) {
+        auto* item = new QWidget;
+        item->setFixedSize(30 + i % 7, 20);
+        flow->addWidget(item);
+    }
+    w->resize(200, 120);
+    return w;
+}
+
+std::shared_ptr<QWidget> flowOf(int count, int spacing = 3)
+{
+    return std::shared_ptr<QWidget>(newFlow(count, spacing));
+}
+
+QUxFlowLayout* flowIn(QWidget& w) { return static_cast<QUxFlowLayout*>(w.layout()); }
+
+void addLayouts(uxHostile::Sweep& sweep)
+{
+    using Q = QUxQuadSplitter;
+    sweep
+        .add<Q>(
+            "QUxQuadSplitter", [] { return quad(); },
+            [](Q& q) {
+                QCOMPARE(q.count(), 4);
+                QCOMPARE(q.insertWidget(new QWidget, -1), nullptr); // a fifth view is refused
+                QVERIFY(q.ratioX() >= 0.0 && q.ratioX() <= 1.0 && q.ratioY() >= 0.0 && q.ratioY() <= 1.0);
+            })
+        .op("insertWidget(nullptr)", [](Q& q, QWidget* w) { QCOMPARE(q.insertWidget(w, 0), nullptr); })
+        .op("removeWidget(unknown)", [](Q& q, QWidget* w) { q.removeWidget(w), q.removeWidget(&q); })
+        .op("resize", [](Q& q, QSize size) { q.resize(size), q.update(), q.resize(400, 300), q.update(); })
+        .op("setChildFixedSize", [](Q& q, QSize size) { q.setChildFixedSize(size.width(), size.height()), q.update(); })
+        .op("drag by",
+            [](Q& q, int by) {
+                send(&q, QEvent::MouseButtonPress, Qt::LeftButton, {200, 150});
+                q.setPosition(by, by);
+                send(&q, QEvent::MouseMove, Qt::LeftButton, {by, by});
+                send(&q, QEvent::MouseButtonRelease, Qt::LeftButton, {by, -by});
+            })
+        .op("getOrientation", [](Q& q, int at) { q.getOrientation(at, at), q.getOrientation(at, 150); })
+        .op("setCursorSplit", [](Q& q, Enum e) { q.setCursorSplit(e.masked<Q::Orientation>(3)); });
+    sweep
+        .add<Q>(
+            "QUxQuadSplitter with one view", [] { return quad(1); }, [](Q& q) { QCOMPARE(q.count(), 1); })
+        .op("drag by", [](Q& q, int by) { q.setPosition(by, by), drag(&q, Qt::LeftButton, by); });
+
+    using H = uxHighlightWidget;
+    sweep
+        .add<H>(
+            "uxHighlightWidget", [] { return std::make_shared<H>(nullptr); }, [](H&) {})
+        .op("setWidget", [](H& h, QWidget* w) { h.setWidget(w); });
+
+    using F = QUxCollapsibleFrame;
+    sweep
+        .add<F>("QUxCollapsibleFrame",
+                [](F& f) {
+                    f.setCollapsed(true);
+                    QVERIFY(f.isCollapsed());
+                    f.setCollapsed(false);
+                    QVERIFY(!f.isCollapsed());
+                })
+        .op("setCaption", [](F& f, const QString& s) { f.setCaption(qtText(s)); })
+        .op("setPageTitle", [](F& f, const QString& s) { f.setPageTitle(qtText(s)); })
+        .op("setCurrentIndex", [](F& f, int i) { f.addPage(new QWidget), f.setCurrentIndex(i); })
+        .op("removePage", [](F& f, int i) { f.addPage(new QWidget), f.removePage(i), f.removePage(i); })
+        .op("insertPage", [](F& f, int i) { f.insertPage(i, new QWidget), f.insertPage(i, nullptr); })
+        .op("addPage(nullptr)", [](F& f, QWidget* w) { f.addPage(w), f.widget(-1), f.widget(INT_MAX); })
+        .op("setCaptionAlignment", [](F& f, Enum e) { f.setCaptionAlignment(e.masked<Qt::Alignment>(0xffff)); })
+        .ops("setLedOnColor", &F::setLedOnColor, "setLedOffColor", &F::setLedOffColor, "setLedOnShape",
+             &F::setLedOnShape, "setLedOffShape", &F::setLedOffShape)
+        .op("fixLayouts",
+            [](F& f, int width) {
+                auto* page = new QWidget;
+                auto* grid = new QGridLayout(page);
+                grid->addWidget(new QLabel(QStringLiteral("a")), 0, 0);
+                grid->addWidget(new QLabel(QStringLiteral("b")), 0, 2);
+                f.addPage(page);
+                F::fixLayouts(&f, width, nullptr);
+                F::fixLayouts(nullptr, width, nullptr);
+                F::fixLayout(page, width);
+                F::fixLayout(nullptr, width);
+            })
+        .ctor("QUxCollapsibleFrame(caption)", [](const QString& s) { return new F(qtText(s), true, nullptr); });
+
+    using W = QWidget;
+    sweep
+        .add<W>(
+            "QUxFlowLayout", [] { return flowOf(40); },
+            [](W& w) {
+                QVERIFY(flowIn(w)->count() >= 11);
+                QVERIFY(flowIn(w)->heightForWidth(200) > 0);
+            })
+        .op("resize", [](W& w, QSize size) { w.resize(size), flowIn(w)->activate(), w.resize(200, 120); })
+        .op("heightForWidth", [](W& w, int width) { flowIn(w)->heightForWidth(width); })
+        .op("setGeometry", [](W& w, QSize size) { flowIn(w)->setGeometry(QRect(QPoint(-5, -5), size)); })
+        .op("takeAt", [](W& w, int i) { delete flowIn(w)->takeAt(i), flowIn(w)->itemAt(i); })
+        .op("addWidget, width",
+            [](W& w, int width) {
+                auto* item = new QWidget;
+                item->setMinimumWidth(qBound(0, width, QWIDGETSIZE_MAX));
+                flowIn(w)->addWidget(item);
+                flowIn(w)->activate();
+                delete item;
+            })
+        .ctor("QUxFlowLayout(spacing)", [](int spacing) { return newFlow(12, spacing); });
+    sweep.add<W>(
+        "QUxFlowLayout, empty", [] { return flowOf(0, -1); },
+        [](W& w) {
+            QCOMPARE(flowIn(w)->count(), 0);
+            QCOMPARE(flowIn(w)->itemAt(0), nullptr);
+            QCOMPARE(flowIn(w)->takeAt(0), nullptr);
+        });
+
+    using T = QUxTagArea;
+    sweep
+        .add<T>("QUxTagArea", sized<T, 200, 80>,
+                [](T& t) {
+                    t.setTags({QStringLiteral("a"), QStringLiteral("b")});
+                    QCOMPARE(t.getTags(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+                })
+        .op("setTags",
+            [](T& t, const QString& s) {
+                t.setTags({s, s.left(3), QStringLiteral("<b>x</b>")});
+            })
+        .op("setUsedLabelCount", [](T& t, int n) { t.setUsedLabelCount(n); })
+        .op("createLabel(nullptr)", [](T& t, QUxTagLabel* l) { t.createLabel(l); })
+        .op("updateLabels, many",
+            [](T& t, int n) { t.updateLabels(QVector<QString>(qBound(0, n, 2000), QStringLiteral("tag")).toList()); });
+
+    using L = QUxTagLabel;
+    sweep
+        .add<L>("QUxTagLabel",
+                [](L& l) {
+                    l.setTag(QStringLiteral("metal"));
+                    QSignalSpy removed(&l, &L::tagRemove);
+                    l.emitTagRemove();
+                    QCOMPARE(removed.count(), 1);
+                })
+        .op("setTag", [](L& l, const QString& s) { l.setTag(s), l.adjustSize(); });
+}
+
 void addMenusAndToolBars(uxHostile::Sweep& sweep)
 {
     using S = QUxSAMenu;
@@ -1219,6 +1381,7 @@ const uxHostile::Sweep& theSweep()
         addDockingAndLabels(s);
         addMenusAndToolBars(s);
         addQuickAccessAndManager(s);
+        addLayouts(s);
         return s;
     }();
     return sweep;
