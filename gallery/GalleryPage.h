@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 #include <QVector>
 
@@ -16,12 +17,22 @@ struct GalleryPage
     std::function<QWidget*()> create;
 };
 
-/// Pages register themselves from their own source file (UX_GALLERY_PAGE).
+/// A further screenshot of a page in some state its own PNG cannot show (an open dialog, say).
+struct GalleryShot
+{
+    QString pageFileName; ///< the page it belongs to
+    QString fileName;     ///< base name of this screenshot
+    std::function<QImage(QWidget* page)> take;
+};
+
+/// Pages register themselves from their own source file (UX_GALLERY_PAGE, UX_GALLERY_SHOT).
 class GalleryPages
 {
 public:
     static bool add(int order, const QString& title, const QString& fileName, std::function<QWidget*()> create);
     static QVector<GalleryPage> all();
+    static bool addShot(const QString& pageFileName, const QString& fileName, std::function<QImage(QWidget*)> take);
+    static QVector<GalleryShot> shotsOf(const QString& pageFileName);
 };
 
 #define UX_GALLERY_PAGE_CONCAT2(a, b) a##b
@@ -30,3 +41,8 @@ public:
 #define UX_GALLERY_PAGE(order, title, fileName, factory)                                                               \
     static const bool UX_GALLERY_PAGE_CONCAT(s_galleryPage, __LINE__) =                                                \
         GalleryPages::add(order, QStringLiteral(title), QStringLiteral(fileName), factory)
+
+/// Registers a further screenshot of page @p pageFileName; @p take gets the page widget and returns the image.
+#define UX_GALLERY_SHOT(pageFileName, fileName, take)                                                                  \
+    static const bool UX_GALLERY_PAGE_CONCAT(s_galleryShot, __LINE__) =                                                \
+        GalleryPages::addShot(QStringLiteral(pageFileName), QStringLiteral(fileName), take)

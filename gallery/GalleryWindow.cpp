@@ -33,6 +33,8 @@ QString groupOf(const QString& fileName)
         {QStringLiteral("docking"), QStringLiteral("Interaction/Windows")},
         {QStringLiteral("docking-150"), QStringLiteral("Interaction/Windows")},
         {QStringLiteral("layout"), QStringLiteral("Interaction/Windows")},
+        {QStringLiteral("search-progress"), QStringLiteral("Interaction/Fields")},
+        {QStringLiteral("panels"), QStringLiteral("Rendering/Materials")},
     };
     return groups.value(fileName, QStringLiteral("Scene"));
 }
@@ -191,6 +193,12 @@ QStringList GalleryWindow::saveScreenshots(const QString& directory)
         const QString path = QDir(directory).filePath(m_fileNames.at(i) + QStringLiteral(".png"));
         if (dock->widget()->grab().save(path))
             written << path;
+        auto* scroll = qobject_cast<QScrollArea*>(dock->widget());
+        for (const GalleryShot& shot : GalleryPages::shotsOf(m_fileNames.at(i))) {
+            const QString extra = QDir(directory).filePath(shot.fileName + QStringLiteral(".png"));
+            if (scroll && shot.take(scroll->widget()).save(extra))
+                written << extra;
+        }
     }
     if (!m_docks.isEmpty()) {
         m_docks.first()->raise();
