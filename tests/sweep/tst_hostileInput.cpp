@@ -1081,7 +1081,7 @@ void addLayouts(uxHostile::Sweep& sweep)
                 send(&q, QEvent::MouseButtonPress, Qt::LeftButton, {200, 150});
                 q.setPosition(by, by);
                 send(&q, QEvent::MouseMove, Qt::LeftButton, {by, by});
-                send(&q, QEvent::MouseButtonRelease, Qt::LeftButton, {by, -by});
+                send(&q, QEvent::MouseButtonRelease, Qt::LeftButton, {by, 0});
             })
         .op("getOrientation", [](Q& q, int at) { q.getOrientation(at, at), q.getOrientation(at, 150); })
         .op("setCursorSplit", [](Q& q, Enum e) { q.setCursorSplit(e.masked<Q::Orientation>(3)); });
