@@ -1138,7 +1138,10 @@ void addLayouts(uxHostile::Sweep& sweep)
             })
         .op("resize", [](W& w, QSize size) { w.resize(size), flowIn(w)->activate(), w.resize(200, 120); })
         .op("heightForWidth", [](W& w, int width) { flowIn(w)->heightForWidth(width); })
-        .op("setGeometry", [](W& w, QSize size) { flowIn(w)->setGeometry(QRect(QPoint(-5, -5), size)); })
+        .op("setGeometry",
+            [](W& w, QSize size) {
+                flowIn(w)->setGeometry(QRect(QPoint(-5, -5), QPoint(size.width() / 2, size.height() / 2)));
+            })
         .op("takeAt", [](W& w, int i) { delete flowIn(w)->takeAt(i), flowIn(w)->itemAt(i); })
         .op("addWidget, width",
             [](W& w, int width) {
