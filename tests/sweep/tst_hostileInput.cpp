@@ -1069,7 +1069,8 @@ void addLayouts(uxHostile::Sweep& sweep)
             "QUxQuadSplitter", [] { return quad(); },
             [](Q& q) {
                 QCOMPARE(q.count(), 4);
-                QCOMPARE(q.insertWidget(new QWidget, -1), nullptr); // a fifth view is refused
+                QWidget fifth;
+                QCOMPARE(q.insertWidget(&fifth, -1), nullptr); // a fifth view is refused
                 QVERIFY(q.ratioX() >= 0.0 && q.ratioX() <= 1.0 && q.ratioY() >= 0.0 && q.ratioY() <= 1.0);
             })
         .op("insertWidget(nullptr)", [](Q& q, QWidget* w) { QCOMPARE(q.insertWidget(w, 0), nullptr); })
