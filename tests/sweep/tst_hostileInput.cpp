@@ -1336,18 +1336,24 @@ void addQuickAccessAndManager(uxHostile::Sweep& sweep)
     sweep
         .add<M>("QUxDockWindowManager", host,
                 [](M& m) {
-                    QUxDockWidget* dock = m.add("Lights", QStringLiteral("Rendering/Lamps"), new QLabel);
+                    auto* lights = new QLabel;
+                    QUxDockWidget* dock = m.add("Lights", QStringLiteral("Rendering/Lamps"), lights);
                     QVERIFY(dock);
                     QCOMPARE(m.getDockWidget(QStringLiteral("Lights")), dock);
-                    QVERIFY(m.sub(QStringLiteral("Lights")));
+                    const bool removed = m.sub(QStringLiteral("Lights"));
+                    if (removed)
+                        delete lights; // given back to the caller
+                    QVERIFY(removed);
                 })
         .op("add(name, group)",
             [](M& m, const QString& s) {
                 const QByteArray name = qtText(s).toUtf8();
                 auto* widget = new QLabel;
                 if (!m.add(name.constData(), s, widget, s, QIcon(), s, Qt::NoDockWidgetArea, true, nullptr))
-                    delete widget;                      // refused: still the caller's
-                m.add(name.constData(), s, new QLabel); // a duplicate: docked, but the first keeps the name
+                    delete widget; // refused: still the caller's
+                auto* duplicate = new QLabel;
+                if (!m.add(name.constData(), s, duplicate)) // docked, but the first keeps the name
+                    delete duplicate;
                 m.updateMenus();
             })
         .op("add(area)",
