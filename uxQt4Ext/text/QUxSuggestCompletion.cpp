@@ -12,6 +12,17 @@
 namespace {
 
 constexpr int maxVisibleRows = 7;
+// A wrapped cell lays out all of its text to find its height: a megabyte took
+// seconds. Longer entries are cut for display; the full text is kept for the editor.
+constexpr int maxShownLength = 512;
+constexpr int fullTextRole = Qt::UserRole + 1;
+
+QString shown(const QString& text)
+{
+    if (text.size() <= maxShownLength)
+        return text;
+    return text.left(text.at(maxShownLength - 1).isHighSurrogate() ? maxShownLength - 1 : maxShownLength);
+}
 
 QTreeWidget* makePopup(QLineEdit* editor)
 {
@@ -43,11 +54,15 @@ QList<QTreeWidgetItem*> makeItems(const QStringList& choices, const QStringList&
     items.reserve(choices.size());
     for (int i = 0; i < choices.size(); ++i) {
         auto* item = new QTreeWidgetItem;
-        item->setText(0, choices[i]);
-        item->setToolTip(0, choices[i]);
+        const QString choice = shown(choices[i]);
+        item->setText(0, choice);
+        item->setToolTip(0, choice);
         item->setData(0, Qt::UserRole, values[i]);
-        item->setText(1, hints[i]);
-        item->setToolTip(1, hints[i]);
+        if (choice.size() != choices[i].size())
+            item->setData(0, fullTextRole, choices[i]);
+        const QString hint = shown(hints[i]);
+        item->setText(1, hint);
+        item->setToolTip(1, hint);
         item->setTextAlignment(1, Qt::AlignRight);
         item->setForeground(1, hintColor);
         items.append(item);
@@ -161,7 +176,8 @@ void QUxSuggestCompletion::showCompletion(const QStringList& choices, const QStr
     popup->addTopLevelItems(makeItems(choices, hints, values, hintColor));
     popup->setCurrentItem(popup->topLevelItem(0));
     const int rowHeight = qMax(0, popup->sizeHintForRow(0));
-    popup->setMaximumHeight(qMin(choices.size(), maxVisibleRows) * rowHeight + 3);
+    const qint64 rows = qMin(choices.size(), maxVisibleRows);
+    popup->setMaximumHeight(int(qMin<qint64>(rows * rowHeight + 3, QWIDGETSIZE_MAX)));
     popup->adjustSize();
     popup->setUpdatesEnabled(true);
 
@@ -209,8 +225,9 @@ void QUxSuggestCompletion::doneCompletion()
     if (!item)
         return;
     const QVariant value = item->data(0, Qt::UserRole);
+    const QVariant full = item->data(0, fullTextRole);
     if (d->editor)
-        d->editor->setText(item->text(0));
+        d->editor->setText(full.isValid() ? full.toString() : item->text(0));
     emit completionChosen(value);
 }
 
