@@ -1,8 +1,11 @@
 #include <QUxAdvancedProgressDialog.h>
+#include <QUxProgressDialogGUII.h>
+#include <QUxProgressIndicator.h>
 #include <QUxRemoveSubProgressAnimation.h>
 #include <QUxSubProgress.h>
 
-#include <QAccessible>
+#include "uxTestSupport.h"
+
 #include <QAccessibleValueInterface>
 #include <QLabel>
 #include <QPointer>
@@ -12,12 +15,27 @@
 #include <QTimer>
 
 #include <climits>
+#include <cmath>
 #include <functional>
 
 namespace {
 
 QProgressBar* bar(QUxSubProgress* row) { return row->findChild<QProgressBar*>(); }
 QLabel* percentLabel(QUxSubProgress* row) { return row->findChildren<QLabel*>().at(1); }
+enum { Increase = 100, NoCount = 200, TenSteps = 300 }; // operations besides setting a step
+
+/// Angle (a multiple of 30, clockwise from the top) of the darkest capsule of a black 100-pixel ring.
+int darkestCapsuleAngle(QUxProgressIndicator& indicator)
+{
+    const QImage image = uxTest::grab(&indicator);
+    QMap<int, int> angleByGray;
+    for (int angle = 330; angle >= 0; angle -= 30) { // mid-capsule, 33 pixels out
+        const double radians = angle * M_PI / 180.0;
+        angleByGray[qGray(image.pixel(50 + int(std::lround(33 * std::sin(radians))),
+                                      50 - int(std::lround(33 * std::cos(radians)))))] = angle;
+    }
+    return angleByGray.first();
+}
 
 } // namespace
 
@@ -32,134 +50,109 @@ private slots:
             QUxAdvancedProgressDialog::destroyLastProgress();
     }
 
-    // Operations: 100 increases the step, 200 sets no count, 300 a count of 10, anything else is a step.
-    void shouldCountStepsIntoTruncatedPercentages_data()
+    // Expected: step, percentage (also the label's), finished() count, bar and percentage shown.
+    void shouldCountStepsOfSevenIntoTruncatedPercentages_data()
     {
         QTest::addColumn<QList<int>>("operations");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<int>("percentage");
-        QTest::addColumn<int>("finished");
-        QTest::addColumn<bool>("barShown");
-        QTest::newRow("three of seven") << QList<int>{3} << 3 << 42 << 0 << true;
-        QTest::newRow("above the count ignored") << QList<int>{3, 8} << 3 << 42 << 0 << true;
-        QTest::newRow("below zero ignored") << QList<int>{5, INT_MIN} << 5 << 71 << 0 << true;
-        QTest::newRow("finished twice") << QList<int>{7, 7} << 7 << 100 << 2 << true;
-        QTest::newRow("increase stops at the count")
-            << QList<int>{100, 100, 100, 100, 100, 100, 100, 100, 100} << 7 << 100 << 1 << true;
-        QTest::newRow("no count: min equals max") << QList<int>{200, 0, 1, 100} << 0 << 0 << 0 << false;
-        QTest::newRow("count again starts at zero") << QList<int>{4, 200, 300} << 0 << 0 << 0 << true;
+        QTest::addColumn<QList<int>>("expected");
+        QTest::newRow("three of seven") << QList<int>{3} << QList<int>{3, 42, 0, 1};
+        QTest::newRow("above the count ignored") << QList<int>{3, 8} << QList<int>{3, 42, 0, 1};
+        QTest::newRow("below zero ignored") << QList<int>{5, INT_MIN} << QList<int>{5, 71, 0, 1};
+        QTest::newRow("finished twice") << QList<int>{7, 7} << QList<int>{7, 100, 2, 1};
+        QTest::newRow("increase stops at the count") << QVector<int>(9, Increase).toList() << QList<int>{7, 100, 1, 1};
+        QTest::newRow("no count: min equals max") << QList<int>{NoCount, 0, 1, Increase} << QList<int>{0, 0, 0, 0};
+        QTest::newRow("a count again starts at zero") << QList<int>{4, NoCount, TenSteps} << QList<int>{0, 0, 0, 1};
     }
 
-    void shouldCountStepsIntoTruncatedPercentages()
+    void shouldCountStepsOfSevenIntoTruncatedPercentages()
     {
-        QFETCH(QList<int>, operations);
         QUxSubProgress row;
-        QCOMPARE(row.description(), QStringLiteral("Loading Shader References"));
-        QCOMPARE(row.width(), 350);
-        QVERIFY(bar(&row)->isHidden());
+        QVERIFY(row.description() == "Loading Shader References" && row.width() == 350 && bar(&row)->isHidden());
         row.setRefreshInterval(0);
         row.setSteps(7);
         QSignalSpy finished(&row, &QUxSubProgress::finished);
+        QFETCH(QList<int>, operations);
         for (int operation : operations) {
-            if (operation == 100)
+            if (operation == Increase)
                 row.increaseStep();
-            else if (operation >= 200)
-                row.setSteps(operation == 200 ? 0 : 10);
+            else if (operation >= NoCount)
+                row.setSteps(operation == NoCount ? 0 : 10);
             else
                 row.setStep(operation);
         }
-        QTEST(row.step(), "step");
-        QTEST(row.percentage(), "percentage");
-        QTEST(int(finished.count()), "finished");
-        QTEST(!bar(&row)->isHidden(), "barShown");
-        QCOMPARE(percentLabel(&row)->isHidden(), bar(&row)->isHidden());
-        if (!bar(&row)->isHidden())
-            QCOMPARE(percentLabel(&row)->text(), QString::number(row.percentage()));
-        if (!finished.isEmpty())
-            QCOMPARE(finished.first().first().value<QUxSubProgress*>(), &row);
+        QTEST((QList<int>{row.step(), percentLabel(&row)->text().toInt(), int(finished.count()),
+                          bar(&row)->isVisibleTo(&row)}),
+              "expected");
+        QVERIFY(percentLabel(&row)->text().toInt() == row.percentage()
+                && percentLabel(&row)->isHidden() == bar(&row)->isHidden());
+        QVERIFY(finished.isEmpty() || finished.first().first().value<QUxSubProgress*>() == &row);
     }
 
-    void shouldShowTheBarAtMostOncePerRefreshIntervalButTheLastStepAtOnce()
-    {
-        QUxSubProgress row;
-        row.setSteps(7);
-        row.setRefreshInterval(INT_MAX);
-        row.setStep(1); // the first change since setSteps shows at once only once the interval passed
-        row.setStep(3);
-        QCOMPARE(row.percentage(), 42);
-        QCOMPARE(percentLabel(&row)->text(), QStringLiteral("0"));
-        row.setStep(7);
-        QCOMPARE(percentLabel(&row)->text(), QStringLiteral("100"));
-        QCOMPARE(bar(&row)->value(), 7);
-    }
-
-    void shouldReportRowValueToAccessibility()
+    void shouldShowStepsAtMostOncePerRefreshIntervalAndTellAccessibility()
     {
         QUxSubProgress row;
         row.setDescription(QStringLiteral("Reading scene"));
         QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&row);
         QVERIFY(iface->state().busy);
         row.setSteps(7);
+        row.setRefreshInterval(INT_MAX);
         row.setStep(3);
+        QCOMPARE(percentLabel(&row)->text(), QStringLiteral("0")); // shown when the interval is over
         QAccessibleValueInterface* value = iface->valueInterface();
-        QCOMPARE(iface->role(), QAccessible::ProgressBar);
-        QCOMPARE((QStringList{iface->text(QAccessible::Name), iface->text(QAccessible::Value)}),
-                 (QStringList{"Reading scene", "42%"}));
-        QCOMPARE((QVariantList{value->currentValue(), value->minimumValue(), value->maximumValue()}),
-                 (QVariantList{3, 0, 7}));
-        QVERIFY(!iface->state().busy);
+        QCOMPARE((QVariantList{iface->text(QAccessible::Name), iface->text(QAccessible::Value), value->currentValue(),
+                               value->minimumValue(), value->maximumValue(), iface->role()}),
+                 (QVariantList{"Reading scene", "42%", 3, 0, 7, QAccessible::ProgressBar}));
+        row.setStep(7); // the last step at once
+        QCOMPARE((QList<int>{percentLabel(&row)->text().toInt(), bar(&row)->value(), int(iface->state().busy)}),
+                 (QList<int>{100, 7, false}));
     }
 
-    // Closing orders of three nested rows: indices into the rows, -1 for destroyLastProgress().
+    // Closing orders of three nested rows and one unregistered: indices, -1 for destroyLastProgress().
     void shouldStackRowsAndGoAwayWithTheLastOne_data()
     {
         QTest::addColumn<QList<int>>("order");
         QTest::newRow("innermost first") << QList<int>{2, 1, 0};
         QTest::newRow("out of order") << QList<int>{0, 2, 1};
         QTest::newRow("last ones") << QList<int>{-1, -1, -1};
-        QTest::newRow("twice and unknown rows ignored") << QList<int>{1, 1, 3, 0, 0, 2};
+        QTest::newRow("twice and unregistered ignored") << QList<int>{1, 1, 3, 0, 0, 2};
     }
 
     void shouldStackRowsAndGoAwayWithTheLastOne()
     {
-        QFETCH(QList<int>, order);
         QWidget window;
         QList<QPointer<QUxSubProgress>> rows;
         for (const char* text : {"Scene", "Model", "Textures"})
             rows << QUxAdvancedProgressDialog::addProgress(text, 10, &window);
-        QUxSubProgress stranger;
-        rows << &stranger;
+        QUxSubProgress unregistered;
+        rows << &unregistered;
         const QPointer<QUxAdvancedProgressDialog> dialog = QUxAdvancedProgressDialog::the();
-        QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
-        QCOMPARE(dialog->objectName(), QStringLiteral("FileIOProgressDialog"));
-        QCOMPARE(
-            (QList<int>{bar(rows[0])->maximumHeight(), bar(rows[1])->maximumHeight(), bar(rows[2])->maximumHeight()}),
-            (QList<int>{QWIDGETSIZE_MAX, 15, 15}));
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 3);
+        QVERIFY(dialog->isVisible() && dialog->isModal() && dialog->objectName() == "FileIOProgressDialog");
+        QCOMPARE(bar(rows[0])->maximumHeight(), QWIDGETSIZE_MAX);
+        QVERIFY(bar(rows[1])->maximumHeight() == 15 && bar(rows[2])->maximumHeight() == 15);
         QUxAdvancedProgressDialog::increaseLastProgress();
-        QCOMPARE(rows[2]->step(), 1);
+        QCOMPARE((QList<int>{QUxAdvancedProgressDialog::progressCount(), rows[2]->step()}), (QList<int>{3, 1}));
+        QFETCH(QList<int>, order);
         for (int index : order) {
-            QVERIFY(dialog);
             if (index < 0)
                 QUxAdvancedProgressDialog::destroyLastProgress();
             else
                 QUxAdvancedProgressDialog::destroyProgress(rows[index]);
         }
-        QVERIFY(!dialog && !rows[0] && !rows[1] && !rows[2]);
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 0);
-        QVERIFY(QUxAdvancedProgressDialog::addProgress("Again", 0, &window));
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 1);
+        QVERIFY(!dialog && !rows[0] && !rows[1] && !rows[2] && QUxAdvancedProgressDialog::progressCount() == 0);
+        QVERIFY(QUxAdvancedProgressDialog::addProgress("Again", 0, &window) && QUxAdvancedProgressDialog::the());
     }
 
-    void shouldForgetRowsDeletedElsewhereAndCloseWhenNoneIsLeft()
+    void shouldForgetRowsAndDialogsDeletedElsewhereEvenDuringProcessEventsLoop()
     {
         delete QUxAdvancedProgressDialog::addProgress("Scene", 5, nullptr);
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 0);
         QVERIFY(!QUxAdvancedProgressDialog::the());
         QUxAdvancedProgressDialog::addProgress("Scene", 5, nullptr);
-        delete QUxAdvancedProgressDialog::the();
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 0);
-        QUxSubProgress::setProgress(3); // the last row went with its dialog
+        QTimer::singleShot(0, this, [] { delete QUxAdvancedProgressDialog::the(); });
+        const QPointer<QUxAdvancedProgressDialog> dialog = QUxAdvancedProgressDialog::the();
+        for (int i = 0; i < 100 && dialog; ++i)
+            dialog->processEventsLoop();
+        QVERIFY(!dialog && QUxAdvancedProgressDialog::progressCount() == 0);
+        QUxSubProgress::setProgress(3); // the most recent row went with its dialog
     }
 
     void shouldRemoveFinishedRowsOnlyWhenAsked()
@@ -167,12 +160,9 @@ private slots:
         QUxAdvancedProgressDialog dialog;
         const QPointer<QUxSubProgress> kept = dialog.addSubProgress("Kept", 2, false);
         const QPointer<QUxSubProgress> removed = dialog.addSubProgress("Removed", 2, true);
-        QCOMPARE(removed->description(), QStringLiteral("Removed"));
         QUxSubProgress::setProgress(2); // the most recent row
         kept->setStep(2);
-        QVERIFY(kept && !removed);
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 0);
-        dialog.removeSubProgress(nullptr);
+        QVERIFY(kept && !removed && QUxAdvancedProgressDialog::progressCount() == 0);
         dialog.removeSubProgress(kept);
         QVERIFY(!kept);
     }
@@ -184,25 +174,13 @@ private slots:
         dialog.show();
         const QRect geometry = row->geometry();
         const QPointer<QUxRemoveSubProgressAnimation> animation = new QUxRemoveSubProgressAnimation(row, &dialog);
-        QCOMPARE(animation->parent(), &dialog);
-        QCOMPARE(animation->duration(), 200);
+        QVERIFY(animation->parent() == &dialog && animation->duration() == 200);
         QCOMPARE(animation->endValue().toRect(), QRect(geometry.topLeft(), QSize(geometry.width(), 0)));
         animation->start();
         animation->setCurrentTime(200);
         QVERIFY(!row);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!animation);
-    }
-
-    void shouldNotCrashWhenTheDialogIsDeletedDuringProcessEventsLoop()
-    {
-        QUxSubProgress* row = QUxAdvancedProgressDialog::addProgress("Scene", 5, nullptr);
-        QTimer::singleShot(0, this, [row] { QUxAdvancedProgressDialog::destroyProgress(row); });
-        const QPointer<QUxAdvancedProgressDialog> dialog = QUxAdvancedProgressDialog::the();
-        for (int i = 0; i < 100 && dialog; ++i)
-            dialog->processEventsLoop();
-        QVERIFY(!dialog);
-        QCOMPARE(QUxAdvancedProgressDialog::progressCount(), 0);
     }
 
     void shouldNotOverflowTheStackWhenProcessEventsLoopRecurses()
@@ -222,46 +200,80 @@ private slots:
         QVERIFY2(deepest >= 1 && deepest <= 4 && calls < 1000, qPrintable(QString::number(deepest)));
     }
 
-    void shouldRoundTheCornersOfARegion_data()
+    void shouldRoundTheCornersOfTheMask()
     {
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<int>("radius");
-        QTest::addColumn<QList<QPoint>>("inside");
-        QTest::addColumn<QList<QPoint>>("outside");
-        const QRect r(10, 20, 20, 10);
-        QTest::newRow("radius 3") << r << 3 << QList<QPoint>{{13, 20}, {10, 23}, {20, 25}, {26, 29}}
-                                  << QList<QPoint>{{10, 20}, {29, 20}, {10, 29}, {29, 29}, {9, 25}, {30, 25}};
-        QTest::newRow("radius beyond half the height")
-            << r << 100 << QList<QPoint>{{20, 20}, {20, 29}, {15, 25}} << QList<QPoint>{{10, 20}, {10, 21}, {29, 29}};
-        QTest::newRow("negative radius: square corners")
-            << r << -4 << QList<QPoint>{{10, 20}, {29, 29}} << QList<QPoint>{{9, 20}, {30, 29}};
-        QTest::newRow("empty") << QRect(5, 5, 0, 7) << 3 << QList<QPoint>{} << QList<QPoint>{{5, 5}};
-        QTest::newRow("wider than int") << QRect(QPoint(INT_MIN, 0), QPoint(INT_MAX, 10)) << 3 << QList<QPoint>{}
-                                        << QList<QPoint>{{0, 5}};
-    }
+        const QRect rect(10, 20, 20, 10);
+        const QRegion three = QUxAdvancedProgressDialog::roundedRect(rect, 3);
+        QVERIFY(three.contains(QPoint(13, 20)) && three.contains(QPoint(10, 23)) && three.contains(QPoint(26, 29)));
+        for (const QPoint& p : {rect.topLeft(), rect.topRight(), rect.bottomLeft(), rect.bottomRight()})
+            QVERIFY(!three.contains(p) && QUxAdvancedProgressDialog::roundedRect(rect, -4).contains(p));
+        QVERIFY(!QUxAdvancedProgressDialog::roundedRect(rect, 100).contains(QPoint(10, 21))); // radius 5 at most
+        QVERIFY(QUxAdvancedProgressDialog::roundedRect(QRect(QPoint(INT_MIN, 0), QPoint(INT_MAX, 9)), 3).isEmpty());
 
-    void shouldRoundTheCornersOfARegion()
-    {
-        QFETCH(QRect, rect);
-        QFETCH(int, radius);
-        QFETCH(QList<QPoint>, inside);
-        QFETCH(QList<QPoint>, outside);
-        const QRegion region = QUxAdvancedProgressDialog::roundedRect(rect, radius);
-        for (const QPoint& p : inside)
-            QVERIFY2(region.contains(p), qPrintable(QStringLiteral("%1,%2").arg(p.x()).arg(p.y())));
-        for (const QPoint& p : outside)
-            QVERIFY2(!region.contains(p), qPrintable(QStringLiteral("%1,%2").arg(p.x()).arg(p.y())));
-    }
-
-    void shouldPaintADarkTranslucentPanel()
-    {
         QUxAdvancedProgressDialog dialog;
         dialog.addSubProgress("Row", 3, false);
         dialog.show();
-        const QImage image = dialog.grab().toImage().convertToFormat(QImage::Format_ARGB32);
-        const QColor inside = image.pixelColor(image.width() / 2, 4); // between the border and the row
-        QVERIFY2(qAbs(inside.alpha() - 75) <= 2 && inside.red() == 0, qPrintable(inside.name(QColor::HexArgb)));
+        const QColor panel = uxTest::grab(&dialog).pixelColor(dialog.width() / 2, 4); // above the row
+        QVERIFY2(qAbs(panel.alpha() - 75) <= 2 && panel.red() == 0, qPrintable(panel.name(QColor::HexArgb)));
         QVERIFY(!dialog.mask().contains(QPoint(0, 0)) && dialog.mask().contains(QPoint(6, 0)));
+    }
+
+    void shouldTurnThirtyDegreesPerTickAndReportBusyState_data()
+    {
+        QTest::addColumn<int>("ticks");
+        QTest::addColumn<int>("angle");
+        QTest::newRow("one") << 1 << 30;
+        QTest::newRow("full turn") << 12 << 0;
+        QTest::newRow("past a turn") << 14 << 60;
+    }
+
+    void shouldTurnThirtyDegreesPerTickAndReportBusyState()
+    {
+        QUxProgressIndicator indicator;
+        indicator.resize(100, 100);
+        const QImage stopped = uxTest::grab(&indicator);
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&indicator);
+        indicator.setAnimationDelay(INT_MAX); // ticks come from the test
+        indicator.startAnimation();
+        QVERIFY(iface->state().busy);
+        QFETCH(int, ticks);
+        for (int i = 0; i < ticks; ++i) {
+            QTimerEvent tick(0);
+            QCoreApplication::sendEvent(&indicator, &tick);
+        }
+        indicator.startAnimation(); // already turning: keeps its angle
+        QTEST(darkestCapsuleAngle(indicator), "angle");
+        indicator.stopAnimation();
+        QVERIFY(!iface->state().busy && !indicator.isAnimated());
+        QCOMPARE(uxTest::grab(&indicator), stopped); // nothing painted
+        indicator.setDisplayedWhenStopped(true);
+        QCOMPARE(darkestCapsuleAngle(indicator), 0);
+    }
+
+    void shouldCoverTheWorkspaceWithABusyOverlay()
+    {
+        QWidget workspace;
+        workspace.setGeometry(40, 30, 200, 120);
+        QUxProgressDialogGUII::setWorkspace(&workspace);
+        QUxProgressDialogGUII::start(QStringLiteral("Hidden"), &workspace); // not visible: nothing at all
+        QVERIFY(!QUxProgressDialogGUII::the());
+        workspace.show();
+        QUxProgressDialogGUII::start(QStringLiteral("Preparing"));
+        const QPointer<QUxProgressDialogGUII> overlay = QUxProgressDialogGUII::the();
+        QCOMPARE((QStringList{overlay->objectName(), overlay->windowTitle()}),
+                 (QStringList{"QUxProgressDialogGUI", "Dialog"}));
+        QCOMPARE(overlay->geometry(), QRect(workspace.mapToGlobal(QPoint(0, 0)), workspace.frameSize()));
+        auto* indicator = overlay->findChild<QUxProgressIndicator*>(QStringLiteral("_progress"));
+        QVERIFY(overlay->isVisible() && indicator->isVisible() && indicator->isAnimated());
+        QUxProgressDialogGUII::setProgressVisible(false);
+        QVERIFY(indicator->isHidden());
+        QUxProgressDialogGUII::start(QStringLiteral("Loading"), &workspace);
+        QCOMPARE(QUxProgressDialogGUII::the(), overlay.data());
+        QCOMPARE(overlay->findChild<QLabel*>(QStringLiteral("_status"))->text(), QStringLiteral("Loading"));
+        const QColor veil = uxTest::grab(overlay).pixelColor(3, 3);
+        QVERIFY2(veil.red() == 0 && qAbs(veil.alpha() - 125) <= 1, qPrintable(veil.name(QColor::HexArgb)));
+        QUxProgressDialogGUII::stop();
+        QVERIFY(!overlay && !QUxProgressDialogGUII::the());
     }
 };
 
