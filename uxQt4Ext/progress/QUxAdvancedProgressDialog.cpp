@@ -85,7 +85,8 @@ QUxSubProgress* QUxAdvancedProgressDialog::addSubProgress(const QString& descrip
         if (removeWhenFinished)
             connect(row, &QUxSubProgress::finished, this, &QUxAdvancedProgressDialog::removeSubProgress);
     }
-    layout()->addWidget(row);
+    if (layout())
+        layout()->addWidget(row);
     return row;
 }
 

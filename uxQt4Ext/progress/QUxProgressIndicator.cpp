@@ -26,6 +26,14 @@ public:
     }
 };
 
+void notifyBusyChanged(QUxProgressIndicator* indicator)
+{
+    QAccessible::State changed;
+    changed.busy = true;
+    QAccessibleStateChangeEvent event(indicator, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
 
 class QUxProgressIndicatorPrivate
@@ -60,10 +68,7 @@ void QUxProgressIndicator::startAnimation()
     d->angle = 0;
     const int id = startTimer(d->delay, Qt::CoarseTimer);
     d->timerId = id > 0 ? id : -1;
-    QAccessible::State changed;
-    changed.busy = true;
-    QAccessibleStateChangeEvent event(this, changed);
-    QAccessible::updateAccessibility(&event);
+    notifyBusyChanged(this);
 }
 
 void QUxProgressIndicator::stopAnimation()
@@ -74,12 +79,8 @@ void QUxProgressIndicator::stopAnimation()
     d->timerId = -1;
     d->angle = 0;
     update();
-    if (wasAnimated) {
-        QAccessible::State changed;
-        changed.busy = true;
-        QAccessibleStateChangeEvent event(this, changed);
-        QAccessible::updateAccessibility(&event);
-    }
+    if (wasAnimated)
+        notifyBusyChanged(this);
 }
 
 void QUxProgressIndicator::setAnimationDelay(int delay)

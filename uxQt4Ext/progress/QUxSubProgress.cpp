@@ -34,7 +34,7 @@ public:
         if (type == QAccessible::Name && widget()->accessibleName().isEmpty())
             return row()->description();
         if (type == QAccessible::Value)
-            return row()->steps() > 0 ? QStringLiteral("%1%").arg(row()->percentage()) : QString();
+            return row()->steps() > 0 ? QUxSubProgress::tr("%1%").arg(row()->percentage()) : QString();
         return QAccessibleWidget::text(type);
     }
 
