@@ -254,6 +254,13 @@ void QUxTextureControlsPrivate::build()
     column->addWidget(planarBox);
     column->addWidget(triplanarBox);
     column->addStretch(1);
+    // The projection settings sit in grids of their own; one label column keeps all fields aligned.
+    int labelWidth = 0;
+    for (const QLabel* text : q->findChildren<QLabel*>())
+        labelWidth = qMax(labelWidth, text->sizeHint().width());
+    for (QWidget* box : {planarBox, triplanarBox})
+        static_cast<QGridLayout*>(box->layout())->setColumnMinimumWidth(0, labelWidth);
+    grid->setColumnMinimumWidth(0, labelWidth);
 }
 
 void QUxTextureControlsPrivate::buildGeneral()
