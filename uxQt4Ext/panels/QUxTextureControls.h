@@ -166,7 +166,7 @@ public slots:
     void writeTexture();
     void clearTexture();
     void showTextureInfo();
-    /// A file dropped on the file field: shown and reported through changedTextureFile().
+    /// Shows a dropped file and reports it through changedTextureFile(); ignored for an internal texture.
     void droppedFile(const QString& path);
 
 signals:
