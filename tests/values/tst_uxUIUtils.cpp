@@ -28,6 +28,15 @@ Qt::CursorShape overrideShape()
 }
 } // namespace
 
+// A composite the style helpers know only by the name of its operation.
+class Composite : public QWidget
+{
+    Q_OBJECT
+public:
+    QVariantList propagated;
+    Q_INVOKABLE void propagateMultiselectProperty() { propagated << property("multiselect"); }
+};
+
 class tst_uxUIUtils : public QObject
 {
     Q_OBJECT
@@ -180,6 +189,15 @@ private slots:
         uxUIStyle::setMultiSelectHighlight(&edit, false);
         QCOMPARE(state("multiselect"), (QVariantList{QVariant(), 4, 4}));
         edit.setStyle(nullptr);
+    }
+
+    void shouldReachCompositesThroughTheirPropagateOperation()
+    {
+        Composite composite;
+        uxUIStyle::setMultiSelectHighlight(&composite, true);
+        uxUIStyle::setMultiSelectHighlight(&composite, false);
+        QCOMPARE(composite.propagated, (QVariantList{true, QVariant()}));
+        uxUIStyle::setMultiSelectHighlight(nullptr, true);
     }
 };
 

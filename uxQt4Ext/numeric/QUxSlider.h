@@ -88,7 +88,7 @@ public:
     SliderPosition sliderPos() const;
 
     /// Gives slider and spin box this widget's "multiselect" style property.
-    void propagateMultiselectProperty();
+    Q_INVOKABLE void propagateMultiselectProperty();
 
     QSize sizeHint() const override;
 

@@ -1,7 +1,6 @@
 #include "uxUIStyle.h"
 
-#include "QUxSlider.h"
-
+#include <QMetaObject>
 #include <QStyle>
 #include <QWidget>
 
@@ -40,11 +39,13 @@ void uxUIStyle::setControlProperty(QWidget* w, const char* name, const QVariant&
 
 namespace {
 
-/// Composite controls whose inner widgets must show the highlight too.
+// Composite controls hand the property on to their inner widgets through an
+// invokable propagateMultiselectProperty(): looked up by name, so that these
+// utilities need no widget class of the library.
 void propagateToInnerWidgets(QWidget* w)
 {
-    if (auto* slider = qobject_cast<QUxSlider*>(w))
-        slider->propagateMultiselectProperty();
+    if (w && w->metaObject()->indexOfMethod("propagateMultiselectProperty()") >= 0)
+        QMetaObject::invokeMethod(w, "propagateMultiselectProperty", Qt::DirectConnection);
 }
 
 } // namespace
