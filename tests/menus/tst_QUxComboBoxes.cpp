@@ -64,11 +64,17 @@ void onPopup(QObject* context, const std::function<void(QMenu*)>& step)
     });
 }
 
-void clickEntry(QMenu* menu, const QString& text)
+QAction* findEntry(QMenu* menu, const QString& text)
 {
     for (QAction* action : menu->actions())
         if (action->text() == text)
-            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+            return action;
+    return nullptr;
+}
+
+void clickEntry(QMenu* menu, const QString& text)
+{
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(findEntry(menu, text)).center());
 }
 
 QString changes(const QSignalSpy& spy)
@@ -90,17 +96,19 @@ private slots:
     {
         QTest::addColumn<int>("count");
         QTest::addColumn<bool>("scrolls");
-        QTest::newRow("none") << 0 << false;
-        QTest::newRow("few") << 3 << false;
-        QTest::newRow("as many as shown") << 10 << false;
-        QTest::newRow("more than shown") << 11 << true;
-        QTest::newRow("ten thousand") << 10000 << true;
+        QTest::addColumn<QString>("closing");
+        QTest::newRow("none") << 0 << false << "escape";
+        QTest::newRow("few") << 3 << false << "click outside";
+        QTest::newRow("as many as shown") << 10 << false << "escape";
+        QTest::newRow("more than shown") << 11 << true << "hidden by the system";
+        QTest::newRow("ten thousand") << 10000 << true << "escape";
     }
 
     void listFitsTheLongestEntry()
     {
         QFETCH(int, count);
         QFETCH(bool, scrolls);
+        QFETCH(QString, closing);
         QUxComboBox box;
         const QString longest = QStringLiteral("A considerably longer entry");
         for (int i = 0; i < count; ++i)
@@ -114,7 +122,13 @@ private slots:
         QCOMPARE(box.view()->minimumWidth(), text + bar);
         QCOMPARE(shown.count(), 1);
         QCOMPARE(shown[0][0].toInt(), box.currentIndex());
-        QTest::keyClick(box.view(), Qt::Key_Escape);
+        QWidget* list = box.view()->parentWidget();
+        if (closing == "escape")
+            QTest::keyClick(box.view(), Qt::Key_Escape);
+        else if (closing == "click outside")
+            QTest::mouseClick(list, Qt::LeftButton, {}, QPoint(-20, -20));
+        else
+            list->hide();
         QCOMPARE(hidden.count(), 1);
         QVERIFY(!box.view()->isVisible());
     }
@@ -157,21 +171,28 @@ private slots:
     void popupMenuChoosesEntriesAtAnyDepth_data()
     {
         QTest::addColumn<int>("depth");
+        QTest::addColumn<QStringList>("path");
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("plain entry") << 1 << "1 m"
+        QStringList deep{"Metric"};
+        for (int i = 1; i < 19; ++i)
+            deep << QStringLiteral("Level %1").arg(i);
+        QTest::newRow("plain entry") << 1 << QStringList() << "1 m"
                                      << "1 m=1000";
-        QTest::newRow("sub-menu entry itself") << 1 << "Metric"
+        QTest::newRow("sub-menu entry itself") << 1 << QStringList() << "Metric"
                                                << "Metric=1000";
-        QTest::newRow("current entry") << 1 << "1 mm"
+        QTest::newRow("current entry") << 1 << QStringList() << "1 mm"
                                        << "";
-        QTest::newRow("twenty levels deep") << 20 << "Metric"
-                                            << "Metric=1000";
+        QTest::newRow("entry of a sub-menu") << 2 << QStringList{"Metric", "Level 1"} << "1 cm"
+                                             << "1 cm=10";
+        QTest::newRow("sub-menu entry twenty deep") << 20 << deep << "Level 19"
+                                                    << "Level 19=19";
     }
 
     void popupMenuChoosesEntriesAtAnyDepth()
     {
         QFETCH(int, depth);
+        QFETCH(QStringList, path);
         QFETCH(QString, entry);
         QFETCH(QString, expected);
         LengthBox box;
@@ -183,8 +204,12 @@ private slots:
         QString checked;
         onPopup(this, [&](QMenu* menu) {
             for (QAction* action : menu->actions())
-                if (action->isChecked())
-                    checked += action->text();
+                checked += action->isChecked() ? action->text() : QString();
+            for (const QString& step : path) { // opened from the keyboard, as a user walks in
+                menu->setActiveAction(findEntry(menu, step));
+                QTest::keyClick(menu, Qt::Key_Right);
+                menu = findEntry(menu, step)->menu();
+            }
             clickEntry(menu, entry);
         });
         box.showPopup();

@@ -44,6 +44,9 @@ void QUxComboBox::hidePopup()
     d->hiding = true;
     QComboBox::hidePopup();
     d->hiding = false;
+    // One report per closing, however often the list is asked to hide.
+    if (!d->open)
+        return;
     d->open = false;
     emit popupHidden();
 }

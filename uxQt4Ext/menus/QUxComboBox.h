@@ -29,7 +29,7 @@ public:
 
     /// Widens the list to the longest entry, opens it and emits popupShown().
     void showPopup() override;
-    /// Closes the list and emits popupHidden().
+    /// Closes the list and emits popupHidden() if it was open.
     void hidePopup() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
