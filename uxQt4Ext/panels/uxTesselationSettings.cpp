@@ -3,6 +3,8 @@
 #include "ui_uxTesselationFrame.h"
 #include "uxSignalBlocker.h"
 
+#include <QStyle>
+
 #include <cmath>
 
 const std::vector<double> uxTesselationSettings::coarse{1.0, 30.0, 400.0};
@@ -14,6 +16,8 @@ const std::vector<std::vector<double>> uxTesselationSettings::value_set{coarse, 
 namespace {
 
 constexpr size_t kPresetValues = 3;
+// Room for a page title of the tool box beyond its text height.
+constexpr int kTabPadding = 10;
 
 // NaN is no position in a range; infinities clamp like any other value.
 void assign(QDoubleSpinBox* field, double value)
@@ -46,6 +50,17 @@ uxTesselationSettings::uxTesselationSettings(QWidget* parent)
 }
 
 uxTesselationSettings::~uxTesselationSettings() = default;
+
+QSize uxTesselationSettings::sizeHint() const
+{
+    // The tool box shows each page in a scroll area, whose hint can fall short of the page.
+    QSize pages;
+    for (const QWidget* page : {ui->page, ui->page_2})
+        pages = pages.expandedTo(page->sizeHint()).expandedTo(page->minimumSizeHint());
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int tabs = ui->_tesselation_settings->count() * (fontMetrics().height() + kTabPadding);
+    return QFrame::sizeHint().expandedTo(QSize(pages.width() + bar, pages.height() + tabs));
+}
 
 double uxTesselationSettings::chordDeviation() const { return ui->_chord_deviation->value(); }
 double uxTesselationSettings::normalTolerance() const { return ui->_normal_tolerance->value(); }

@@ -70,6 +70,9 @@ public:
     explicit uxTesselationSettings(QWidget* parent = nullptr);
     ~uxTesselationSettings() override;
 
+    /// Large enough for the taller page without scrolling.
+    QSize sizeHint() const override;
+
     double chordDeviation() const;
     double normalTolerance() const;
     double maxChordLength() const;
