@@ -1,6 +1,18 @@
 #include <uxHostileInput.h>
 #include <uxTestSupport.h>
 
+#include <QUxAdvancedProgressDialog.h>
+#include <QUxComboBox.h>
+#include <QUxComboBoxMenu.h>
+#include <QUxMultiLevelComboBox.h>
+#include <QUxProgressDialogGUII.h>
+#include <QUxProgressIndicator.h>
+#include <QUxSearchBox.h>
+#include <QUxSubProgress.h>
+#include <QUxSuggestCompletion.h>
+#include <QUxTextureControls.h>
+#include <uxTesselationSettings.h>
+
 #include <QUxAction.h>
 #include <QUxAnimatedMenu.h>
 #include <QUxCachedSelectionModel.h>
@@ -1189,6 +1201,266 @@ void addLayouts(uxHostile::Sweep& sweep)
         .op("setTag", [](L& l, const QString& s) { l.setTag(s), l.adjustSize(); });
 }
 
+/// A plain multi-level box whose text is the value in words; it never pops up in the sweep.
+class SweepLevelBox : public QUxMultiLevelComboBox
+{
+public:
+    SweepLevelBox()
+    {
+        addItem(QString());
+        reset();
+    }
+
+protected:
+    QUxComboBoxMenu* createMenu() override { return new QUxComboBoxMenu(font(), currentData(), this); }
+    QString defaultText() const override { return QStringLiteral("none"); }
+    QVariant defaultData() const override { return 0; }
+    QString toText(const QVariant& value) const override { return value.toString().left(64); }
+};
+
+/// A line edit with a completer that answers every request with @p count entries.
+std::shared_ptr<QLineEdit> completedEdit(int count = 3)
+{
+    auto edit = std::make_shared<QLineEdit>();
+    auto* completer = new QUxSuggestCompletion(edit.get(), 0, 1);
+    QObject::connect(completer, &QUxSuggestCompletion::needSuggestions, completer,
+                     [completer, count](const QString& s) {
+                         const QStringList choices(QVector<QString>(count, s.left(100)).toList());
+                         completer->receivedSuggestions(choices, choices, QVector<QVariant>(count, 1).toList());
+                     });
+    return edit;
+}
+
+QUxSuggestCompletion* completerOf(QLineEdit& e) { return e.findChild<QUxSuggestCompletion*>(); }
+
+void addSearchAndProgress(uxHostile::Sweep& sweep)
+{
+    using S = QUxSearchBox;
+    sweep
+        .add<S>(
+            "QUxSearchBox", [] { return std::make_shared<S>(nullptr); },
+            [](S& s) {
+                QSignalSpy changed(&s, &S::searchChanged);
+                s.setText(QStringLiteral("door"));
+                QCOMPARE(s.text(), QStringLiteral("door"));
+                QCOMPARE(changed.count(), 0);
+            })
+        .op("setText", [](S& s, const QString& t) { s.setText(t), s.beginSearch(); })
+        .op("type and Return",
+            [](S& s, const QString& t) {
+                s.setDelayedLiveSearch(true);
+                s.findChild<QLineEdit*>()->setText(t);
+                QTest::keyClick(s.findChild<QLineEdit*>(), Qt::Key_Return);
+            })
+        .op("setDelayInterval", [](S& s, int ms) { s.setDelayedLiveSearch(true), s.setDelayInterval(ms); })
+        .op("addWidget(nullptr)", [](S& s, QWidget* w) { s.addWidget(w); });
+
+    using E = QLineEdit;
+    sweep
+        .add<E>(
+            "QUxSuggestCompletion", [] { return completedEdit(); },
+            [](E& e) {
+                QUxSuggestCompletion* c = completerOf(e);
+                c->popup()->hide();
+                c->receivedSuggestions({QStringLiteral("late")}, {QString()}, {1}); // outside a request
+                QVERIFY(!c->popup()->isVisible());
+            })
+        .op("autoSuggest", [](E& e, const QString& t) { e.setText(t), completerOf(e)->autoSuggest(); })
+        .op("unequal lists",
+            [](E& e, int n) {
+                const QStringList three{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+                completerOf(e)->showCompletion(three, QVector<QString>(qBound(0, n, 5)).toList(), {1, 2});
+            })
+        .op("many, then keys",
+            [](E& e, int n) {
+                const int count = qBound(0, n, 2000);
+                completerOf(e)->showCompletion(QVector<QString>(count, QStringLiteral("x")).toList(),
+                                               QVector<QString>(count, QStringLiteral("y")).toList(),
+                                               QVector<QVariant>(count, 0).toList());
+                QTest::keyClick(completerOf(e)->popup(), Qt::Key_Down);
+                QTest::keyClick(completerOf(e)->popup(), Qt::Key_Return);
+            })
+        .op("setPauseInterval", [](E& e, int ms) { completerOf(e)->setPauseInterval(ms); })
+        .ctor("QUxSuggestCompletion(editor, pause, length)", [](int n) {
+            auto* edit = new QLineEdit;
+            new QUxSuggestCompletion(edit, n, n);
+            return edit;
+        });
+
+    using R = QUxSubProgress;
+    sweep
+        .add<R>("QUxSubProgress",
+                [](R& r) {
+                    r.setSteps(7);
+                    r.setStep(3);
+                    QCOMPARE(r.percentage(), 42);
+                })
+        .ops("setSteps", &R::setSteps, "setStep", &R::setStep, "setRefreshInterval", &R::setRefreshInterval)
+        .op("setDescription", [](R& r, const QString& t) { r.setDescription(qtText(t)); })
+        .op("finish twice",
+            [](R& r, int steps) { r.setSteps(steps), r.setStep(steps), r.setStep(steps), r.increaseStep(); })
+        .op("setProgress", [](R&, int step) { R::setProgress(unsigned(step)); });
+
+    using D = QUxAdvancedProgressDialog;
+    sweep
+        .add<D>("QUxAdvancedProgressDialog",
+                [](D&) {
+                    QUxSubProgress* row = D::addProgress(QStringLiteral("load"), 3, nullptr);
+                    QCOMPARE(D::progressCount(), 1);
+                    D::destroyProgress(row);
+                    QCOMPARE(D::progressCount(), 0);
+                })
+        .op("addSubProgress",
+            [](D& d, int steps) { d.removeSubProgress(d.addSubProgress(QStringLiteral("x"), steps, true)); })
+        .op("addProgress, close out of order",
+            [](D&, int steps) {
+                QUxSubProgress* outer = D::addProgress(QStringLiteral("outer"), steps, nullptr);
+                D::addProgress(QStringLiteral("inner"), steps, nullptr);
+                D::destroyProgress(outer);
+                D::increaseLastProgress();
+                D::destroyProgress(outer);
+                D::destroyLastProgress();
+                D::destroyLastProgress();
+            })
+        .op("destroyProgress(nullptr)", [](D&, QUxSubProgress* r) { D::destroyProgress(r), D::destroyLastProgress(); })
+        .op("roundedRect", [](D&, int radius) {
+            D::roundedRect(QRect(QPoint(0, 0), QPoint(40, 20)), radius);
+            D::roundedRect(QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)), radius);
+        });
+
+    using I = QUxProgressIndicator;
+    sweep
+        .add<I>("QUxProgressIndicator",
+                [](I& i) {
+                    i.startAnimation();
+                    QVERIFY(i.isAnimated());
+                    i.stopAnimation();
+                })
+        .op("setAnimationDelay", [](I& i, int ms) { i.startAnimation(), i.setAnimationDelay(ms); })
+        .op("resize",
+            [](I& i, QSize size) {
+                i.setDisplayedWhenStopped(true), i.resize(size), i.heightForWidth(size.width()), i.grab(),
+                    i.resize(32, 32);
+            })
+        .op("setColor", [](I& i, int v) { i.setColor(QColor(v, v, v)); });
+
+    using G = QUxProgressDialogGUII;
+    sweep
+        .add<G>("QUxProgressDialogGUII",
+                [](G&) {
+                    G::start(QStringLiteral("busy"), nullptr);
+                    G::stop();
+                    QCOMPARE(G::the(), nullptr);
+                })
+        .op("start",
+            [](G&, const QString& t) { G::start(qtText(t), nullptr), G::setProgressVisible(false), G::stop(); })
+        .op("start over a hidden parent",
+            [](G& g, QWidget* w) { G::setWorkspace(w), G::start(QString(), &g), G::stop(); });
+}
+
+void addPanelsAndCombos(uxHostile::Sweep& sweep)
+{
+    using T = QUxTextureControls;
+    sweep
+        .add<T>("QUxTextureControls",
+                [](T& t) {
+                    QSignalSpy projection(&t, &T::changedProjectionType);
+                    t.setProjectionType(5);
+                    QCOMPARE(projection.count(), 1);
+                })
+        .ops("setTextureRepeatU", &T::setTextureRepeatU, "setTextureRepeatV", &T::setTextureRepeatV,
+             "setTextureOffsetU", &T::setTextureOffsetU, "setTextureOffsetV", &T::setTextureOffsetV, "setTextureRotate",
+             &T::setTextureRotate, "setAnisotropy", &T::setAnisotropy, "setGamma", &T::setGamma,
+             "setPlanarProjectionScaleX", &T::setPlanarProjectionScaleX, "setTriplanarEdgeBlend",
+             &T::setTriplanarEdgeBlend)
+        .ops("setRepeatModeU", &T::setRepeatModeU, "setRepeatModeV", &T::setRepeatModeV, "setProjectionType",
+             &T::setProjectionType, "setFrameOffset", &T::setFrameOffset)
+        .op("vectors",
+            [](T& t, double v) {
+                t.setPlanarProjectionCenter(v, v, v);
+                t.setPlanarProjectionRotation(v, v);
+                t.setTriplanarTextureSize(v, v);
+                t.setTriplanarTextureRepeatU(v, v, v);
+                t.setTriplanarTextureOffsetV(v, v, v);
+                t.setTriplanarTextureRotation(v, v, v);
+            })
+        .op("setTexture, droppedFile",
+            [](T& t, const QString& s) { t.setTexture(qtText(s)), t.droppedFile(s), t.setTextureEdited(); })
+        .op("link, then mode", [](T& t, int mode) {
+            t.setConnectRepeatModes(true), t.setRepeatModeU(mode), t.setUseRealWorldScale(true);
+        });
+
+    using U = uxTesselationSettings;
+    sweep
+        .add<U>("uxTesselationSettings",
+                [](U& u) {
+                    u.setStitchingEnabled(true);
+                    QVERIFY(u.stitchingEnabled());
+                })
+        .ops("setChordDeviation", &U::setChordDeviation, "setNormalTolerance", &U::setNormalTolerance,
+             "setMaxChordLength", &U::setMaxChordLength, "setStitchingTolerance", &U::setStitchingTolerance)
+        .op("enableGroups", [](U& u, int mask) { u.enableGroups(unsigned(mask)); })
+        .op("typed", [](U& u, double v) {
+            auto* field = u.findChild<QDoubleSpinBox*>(QStringLiteral("_chord_deviation"));
+            field->setValue(v);
+            u.updateQualityPreset();
+        });
+
+    using C = QUxComboBox;
+    sweep
+        .add<C>("QUxComboBox", sized<C>,
+                [](C& c) {
+                    QSignalSpy shown(&c, &C::popupShown);
+                    c.showPopup();
+                    QCOMPARE(shown.count(), 1);
+                    c.hidePopup();
+                })
+        .op("addItems, showPopup",
+            [](C& c, const QString& s) {
+                c.addItems({qtText(s), QStringLiteral("b")});
+                c.showPopup();
+                c.hidePopup();
+            })
+        .op("many, showPopup", [](C& c, int n) {
+            c.addItems(QVector<QString>(qBound(0, n, 10000), QStringLiteral("entry")).toList());
+            c.showPopup();
+            c.hidePopup();
+        });
+
+    using M = QUxComboBoxMenu;
+    sweep
+        .add<M>(
+            "QUxComboBoxMenu", [] { return std::make_shared<M>(QFont(), QVariant(1), nullptr); },
+            [](M& m) {
+                QAction* current = m.addItem(&m, QStringLiteral("one"), 1);
+                QVERIFY(current->isChecked());
+            })
+        .op("nested 20 deep",
+            [](M& m, const QString& s) {
+                QMenu* menu = &m;
+                for (int depth = 0; depth < 20; ++depth)
+                    menu = m.addMenu(menu, qtText(s), depth);
+                m.addItem(menu, qtText(s), s);
+            })
+        .op("addItem(nullptr)", [](M& m, QMenu* menu) {
+            m.addItem(menu, QString(), QVariant()), m.addMenu(menu, QString(), 0), m.setFontSettings(menu);
+        });
+
+    using L = SweepLevelBox;
+    sweep
+        .add<L>("QUxMultiLevelComboBox",
+                [](L& l) {
+                    if (l.count() == 0) // a box without its one item changes nothing
+                        l.addItem(QString());
+                    l.change(QStringLiteral("two"), 2);
+                    l.reset();
+                    l.undo();
+                    QCOMPARE(l.currentData(), QVariant(2));
+                })
+        .op("change", [](L& l, const QString& s) { l.change(qtText(s), s), l.update(), l.undo(), l.reset(); })
+        .op("change, no item", [](L& l, int v) { l.clear(), l.change(QString::number(v), v), l.reset(), l.undo(); });
+}
+
 void addMenusAndToolBars(uxHostile::Sweep& sweep)
 {
     using S = QUxSAMenu;
@@ -1392,6 +1664,8 @@ const uxHostile::Sweep& theSweep()
         addMenusAndToolBars(s);
         addQuickAccessAndManager(s);
         addLayouts(s);
+        addSearchAndProgress(s);
+        addPanelsAndCombos(s);
         return s;
     }();
     return sweep;
