@@ -1339,8 +1339,8 @@ void addSearchAndProgress(uxHostile::Sweep& sweep)
         .op("setAnimationDelay", [](I& i, int ms) { i.startAnimation(), i.setAnimationDelay(ms); })
         .op("resize",
             [](I& i, QSize size) {
-                i.setDisplayedWhenStopped(true), i.resize(size), i.heightForWidth(size.width()), i.grab(),
-                    i.resize(32, 32);
+                i.setDisplayedWhenStopped(true), i.resize(size), i.heightForWidth(size.width()),
+                    i.grab(QRect(0, 0, 32, 32)), i.resize(32, 32);
             })
         .op("setColor", [](I& i, int v) { i.setColor(QColor(v, v, v)); });
 
