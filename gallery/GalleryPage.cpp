@@ -1,5 +1,7 @@
 #include "GalleryPage.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 namespace {
@@ -44,3 +46,5 @@ QVector<GalleryShot> GalleryPages::shotsOf(const QString& pageFileName)
             found << shot;
     return found;
 }
+
+QString fixedNumber(double value, int decimals) { return QLocale::c().toString(value, 'f', decimals); }

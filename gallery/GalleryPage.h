@@ -17,6 +17,9 @@ struct GalleryPage
     std::function<QWidget*()> create;
 };
 
+/// @p value with @p decimals fixed decimals, in the C locale, as every page shows numbers.
+QString fixedNumber(double value, int decimals = 2);
+
 /// A further screenshot of a page in some state its own PNG cannot show (an open dialog, say).
 struct GalleryShot
 {

@@ -35,8 +35,6 @@
 
 namespace {
 
-QString number(double value, int decimals) { return QLocale::c().toString(value, 'f', decimals); }
-
 /// The current colour: a large well that can be dragged onto a palette swatch
 /// and accepts colours dropped from one. Colour data carries linear RGB, as the
 /// palette's own swatches do.
@@ -454,7 +452,7 @@ private:
         for (int row = 0; row < int(m_channels.size()); ++row) {
             const Channel& channel = m_channels[row];
             const float value = channel.read(m_field);
-            channel.readOut->setText(number(value, channel.decimals));
+            channel.readOut->setText(fixedNumber(value, channel.decimals));
             if (row == editedRow)
                 continue;
             const uxSignalBlocker blocker(channel.slider);
@@ -464,8 +462,8 @@ private:
         m_well->setColor(color);
         const QColor shown = color.getGammaQColor();
         m_hex->setText(tr("<b>%1</b><br>linear %2, %3, %4")
-                           .arg(shown.name(), number(m_field->getRed(), 3), number(m_field->getGreen(), 3),
-                                number(m_field->getBlue(), 3)));
+                           .arg(shown.name(), fixedNumber(m_field->getRed(), 3), fixedNumber(m_field->getGreen(), 3),
+                                fixedNumber(m_field->getBlue(), 3)));
     }
 
     void connectLog()
@@ -478,7 +476,7 @@ private:
         connect(m_balance, &QUxWhiteBalance::valueChanged, m_log,
                 [this](int kelvin) { m_log->log(tr("whiteBalance valueChanged(%1)").arg(kelvin)); });
         connect(m_field, &QUxColorField::constantChannelChanged, m_log,
-                [this](float value) { m_log->log(tr("field constantChannelChanged(%1)").arg(number(value, 3))); });
+                [this](float value) { m_log->log(tr("field constantChannelChanged(%1)").arg(fixedNumber(value, 3))); });
     }
 
     std::vector<Channel> m_channels;

@@ -27,8 +27,6 @@
 
 namespace {
 
-QString number(double value) { return QLocale::c().toString(value, 'f', 2); }
-
 /// A stand-in for a render view: a projected ground grid with the view's name.
 /// A press makes it the current view of its splitter.
 class Viewport : public QWidget
@@ -140,7 +138,7 @@ private:
         connect(add, &QPushButton::clicked, this, [this] { addView(); });
         connect(remove, &QPushButton::clicked, this, [this] { removeView(); });
         connect(ratios, &QPushButton::clicked, this, [this] {
-            m_log->log(tr("ratios %1 x %2").arg(number(m_splitter->ratioX()), number(m_splitter->ratioY())));
+            m_log->log(tr("ratios %1 x %2").arg(fixedNumber(m_splitter->ratioX()), fixedNumber(m_splitter->ratioY())));
         });
         auto* buttons = new QHBoxLayout;
         buttons->addWidget(add);

@@ -23,8 +23,6 @@
 
 namespace {
 
-QString number(double value, int decimals = 3) { return QLocale::c().toString(value, 'f', decimals); }
-
 /// A square of the material's surface: a tile image mapped with the panel's
 /// repeat, offset, rotation and wrap modes, as a renderer would sample it.
 class TexturePreview : public QWidget
@@ -229,7 +227,7 @@ private:
             return [this, preview, field, name](double value) {
                 preview->*field = value;
                 preview->update();
-                m_log->log(QStringLiteral("%1(%2)").arg(QLatin1String(name), number(value)));
+                m_log->log(QStringLiteral("%1(%2)").arg(QLatin1String(name), fixedNumber(value, 3)));
             };
         };
         connect(controls, &QUxTextureControls::changedTextureRepeatU, preview,
@@ -276,13 +274,13 @@ private:
             };
             const auto* presets = settings->findChild<QComboBox*>(QStringLiteral("_tessellation_presets"));
             const auto* stitching = settings->findChild<QCheckBox*>(QStringLiteral("_stitching"));
-            readOut->setText(tr("%1: chord deviation %2 mm, normal tolerance %3°,\n"
-                                "max chord length %4 mm; stitching %5, %6 mm")
-                                 .arg(presets ? presets->currentText() : QString(),
-                                      number(field("_chord_deviation"), 4), number(field("_normal_tolerance"), 1),
-                                      number(field("_max_chord_length"), 1),
-                                      stitching && stitching->isChecked() ? tr("on") : tr("off"),
-                                      number(field("_stitching_tolerance"), 2)));
+            readOut->setText(
+                tr("%1: chord deviation %2 mm, normal tolerance %3°,\n"
+                   "max chord length %4 mm; stitching %5, %6 mm")
+                    .arg(presets ? presets->currentText() : QString(), fixedNumber(field("_chord_deviation"), 4),
+                         fixedNumber(field("_normal_tolerance"), 1), fixedNumber(field("_max_chord_length"), 1),
+                         stitching && stitching->isChecked() ? tr("on") : tr("off"),
+                         fixedNumber(field("_stitching_tolerance"), 2)));
         };
         // The panel has no signals of its own; the read-out listens to its fields.
         for (auto* spin : settings->findChildren<QUxDoubleSpiner*>())

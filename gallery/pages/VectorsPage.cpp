@@ -18,8 +18,6 @@
 
 namespace {
 
-QString number(double v) { return QString::number(v, 'f', 2); }
-
 /// Three objects whose positions one vector control edits at once.
 class SelectionDemo : public QGroupBox
 {
@@ -70,7 +68,7 @@ private:
     {
         for (int row = 0; row < 3; ++row)
             for (int axis = 0; axis < 3; ++axis)
-                m_table->setItem(row, axis, new QTableWidgetItem(number(m_objects[size_t(row)][size_t(axis)])));
+                m_table->setItem(row, axis, new QTableWidgetItem(fixedNumber(m_objects[size_t(row)][size_t(axis)])));
         const double first[] = {m_objects[0][0], m_objects[0][1], m_objects[0][2]};
         m_control->setXYZ(first[0], first[1], first[2]);
         for (int axis = 0; axis < 3; ++axis) {
@@ -171,7 +169,8 @@ private:
         paint(colour->value());
         connect(colour, &QUxVec3SliderControl::changed, swatch, [this, paint](const QVector3D& c) {
             paint(c);
-            m_log->log(tr("Colour changed(%1, %2, %3)").arg(number(c.x()), number(c.y()), number(c.z())));
+            m_log->log(
+                tr("Colour changed(%1, %2, %3)").arg(fixedNumber(c.x()), fixedNumber(c.y()), fixedNumber(c.z())));
         });
         form->addRow(tr("Colour"), colour);
         form->addRow(QString(), swatch);
